@@ -1,0 +1,38 @@
+#pragma once
+
+#include <mutex>
+
+#include "cvdeveloper/automation/interface_table.h"
+#include "cvdeveloper/automation/object.h"
+
+namespace cvdeveloper {
+
+// An object that answers from its class's interface table.
+class LibraryObject : public Object {
+  public:
+    [[nodiscard]] virtual const InterfaceTable& table() const noexcept = 0;
+    [[nodiscard]] std::string_view class_name() const noexcept override;
+    Variant invoke(std::string_view member, InvokeKind kind, Arguments arguments) override;
+
+    // Runs one row of the table: places the arguments, fills in defaults, takes the guard, writes
+    // by-reference arguments back on success. Errors: 448, 449, 450 for arguments that do not fit,
+    // 13, 6, 94 for values that do not convert; the description names operation and argument.
+    Variant invoke(const Operation& operation, Arguments arguments);
+
+    // One caller at a time, where the object has state that threads could share.
+    [[nodiscard]] virtual std::recursive_mutex* guard() noexcept { return nullptr; }
+};
+
+// Holds a guard; a wait for it gives up the interpreter lock.
+class GuardLock {
+  public:
+    explicit GuardLock(std::recursive_mutex* guard);
+    GuardLock(const GuardLock&) = delete;
+    GuardLock& operator=(const GuardLock&) = delete;
+    ~GuardLock();
+
+  private:
+    std::recursive_mutex* guard_;
+};
+
+}  // namespace cvdeveloper
