@@ -108,7 +108,7 @@ struct Argument<ObjectRef> {
     ObjectRef value;
 };
 template <class E>
-    requires std::is_enum_v<E>
+requires std::is_enum_v<E>
 struct Argument<E> {
     static constexpr TypeName type{ValueType::Enumeration, EnumerationName<E>::value};
     Argument(Variant& slot, const Place& place) : value(static_cast<E>(int32_in(slot, place))) {}
@@ -175,7 +175,7 @@ struct Result<Ref<T>> {
     static constexpr TypeName type{ValueType::Object, T::automation_name};
 };
 template <class E>
-    requires std::is_enum_v<E>
+requires std::is_enum_v<E>
 struct Result<E> {
     static constexpr TypeName type{ValueType::Enumeration, EnumerationName<E>::value};
 };
@@ -201,8 +201,8 @@ decltype(auto) target(Self& self) {
 }
 
 template <class T>
-constexpr bool changes = std::is_lvalue_reference_v<T> &&
-                         !std::is_const_v<std::remove_reference_t<T>>;
+constexpr bool changes =
+    std::is_lvalue_reference_v<T> && !std::is_const_v<std::remove_reference_t<T>>;
 
 template <class R, class... A>
 struct Signature {

@@ -54,7 +54,8 @@ class Default {
     }
 
   private:
-    std::variant<std::monostate, bool, std::int32_t, double, Date, std::string_view, Missing> value_;
+    std::variant<std::monostate, bool, std::int32_t, double, Date, std::string_view, Missing>
+        value_;
 };
 
 struct Parameter {

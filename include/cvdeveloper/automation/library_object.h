@@ -14,10 +14,14 @@ class LibraryObject : public Object {
     [[nodiscard]] std::string_view class_name() const noexcept override;
     Variant invoke(std::string_view member, InvokeKind kind, Arguments arguments) override;
 
-    // Runs one row of the table: places the arguments, fills in defaults, takes the guard, writes
-    // by-reference arguments back on success. Errors: 448, 449, 450 for arguments that do not fit,
-    // 13, 6, 94 for values that do not convert; the description names operation and argument.
+    // Runs one row of the table: places the arguments, fills in defaults, writes by-reference
+    // arguments back on success. Errors: 448, 449, 450 for arguments that do not fit; 13, 6, 94
+    // for values that do not convert. The description names operation and argument.
     Variant invoke(const Operation& operation, Arguments arguments);
+
+    // Runs a row on a full list of arguments, converting it in place; Missing ones take their
+    // defaults. Afterwards the arguments that the function may change hold what it left there.
+    Variant run(const Operation& operation, Variant* slots);
 
     // One caller at a time, where the object has state that threads could share.
     [[nodiscard]] virtual std::recursive_mutex* guard() noexcept { return nullptr; }

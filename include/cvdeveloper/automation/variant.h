@@ -39,7 +39,7 @@ enum class VariantType : std::uint8_t {
     Double,
     Date,
     String,
-    Bytes,
+    ByteArray,
     Object,
 };
 

@@ -51,9 +51,7 @@ class RecordSet {
 
     [[nodiscard]] const ObjectRef& object() const noexcept { return object_; }
     explicit operator bool() const noexcept { return static_cast<bool>(object_); }
-    operator Variant() const {
-        return object_ ? Variant(object_) : Variant(ObjectRef());
-    }
+    operator Variant() const { return object_ ? Variant(object_) : Variant(ObjectRef()); }
 
     [[nodiscard]] bool at_end() const;
     void move_first() const;
