@@ -92,8 +92,7 @@ std::span<const Operation> DiagnosticLog::operations() noexcept {
     return rows;
 }
 
-void DiagnosticLog::DoLog(std::string_view strProcName,
-                          std::string_view strMessageString) const noexcept {
+void DiagnosticLog::DoLog(std::string_view strProcName, std::string_view strMessageString) const {
     constexpr std::size_t units_of_second_try = 300;
     try {
         const std::string file = log_folder(session().log_path) + "\\cvDeveloper.log";

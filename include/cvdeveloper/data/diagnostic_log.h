@@ -13,7 +13,7 @@ class DiagnosticLog : public Topic {
     using Topic::Topic;
 
     // Appends one line. Never fails: what cannot be written is lost.
-    void DoLog(std::string_view strProcName, std::string_view strMessageString) const noexcept;
+    void DoLog(std::string_view strProcName, std::string_view strMessageString) const;
 
     [[nodiscard]] bool FlagSqlLog() const;
     void put_FlagSqlLog(bool blnFlag);
