@@ -97,7 +97,7 @@ CREATE TABLE AKT (
     gelesen                 SMALLINT DEFAULT 0,
     deferred_delivery_time  DATETIME,                     -- not to be sent before
     delivery_time           DATETIME,
-    delivery_state          INTEGER DEFAULT 0,            -- 0 none, 1 in, 2 queued, 3 sent, 4 failed
+    delivery_state          INTEGER DEFAULT 0,            -- 0 none 1 in 2 queued 3 sent 4 failed
     delivery_error          VARCHAR(254) COLLATE CVTEXT,
     delivery_attempts       SMALLINT,
     from_ben_dsn            CHAR(36) COLLATE CVTEXT,
@@ -954,7 +954,7 @@ CREATE TABLE Blob (
     DSN                CHAR(36) COLLATE CVTEXT NOT NULL PRIMARY KEY,
     STAMP              INTEGER NOT NULL DEFAULT 0,
     uidLINK_DSN        CHAR(36) COLLATE CVTEXT,       -- the record that owns the attachment
-    lngTyp             INTEGER,                       -- 6 content is stored, 7 only the path is kept
+    lngTyp             INTEGER,                       -- 6 content is stored, 7 only the path
     strsourcefilename  VARCHAR(1000) COLLATE CVTEXT,  -- the path that the file came from
     mail_attachment    SMALLINT DEFAULT 0,            -- sent with an e-mail
     strInfo            VARCHAR(254) COLLATE CVTEXT,
