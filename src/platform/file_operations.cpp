@@ -98,9 +98,13 @@ void copy_tree(std::string_view from, std::string_view to, bool overwrite) {
 
 }  // namespace
 
-std::vector<std::string> files_named(std::string_view path) { return named(path, Kind::File); }
+std::vector<std::string> files_named(std::string_view path) {
+    return named(path, Kind::File);
+}
 
-std::vector<std::string> folders_named(std::string_view path) { return named(path, Kind::Folder); }
+std::vector<std::string> folders_named(std::string_view path) {
+    return named(path, Kind::Folder);
+}
 
 void copy_files(std::string_view source, std::string_view target, bool overwrite) {
     const std::vector<std::string> sources = files_named(source);

@@ -48,9 +48,9 @@ void remove_folder(std::string_view path);
 bool is_inside(std::string_view inner, std::string_view outer);
 
 std::string read_text(std::string_view path);
-// Adds the text in one piece, so that lines of several processes do not mix; makes the file where
-// it is missing.
-void append_text(std::string_view path, std::string_view text);
+// Adds the line and CR LF in one piece, so that lines of several processes do not mix; makes the
+// file where it is missing. False where that failed.
+bool append_line(std::string_view path, std::string_view line);
 
 // TMPDIR where it names a folder, else a folder of the user's own that nobody else may enter.
 std::string temp_folder();

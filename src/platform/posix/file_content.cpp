@@ -4,6 +4,7 @@
 #include <array>
 #include <cerrno>
 
+#include "cvdeveloper/automation/error.h"
 #include "platform/files.h"
 #include "platform/posix/file_errors.h"
 
@@ -61,20 +62,29 @@ std::string read_text(std::string_view path) {
     }
 }
 
-void append_text(std::string_view path, std::string_view text) {
-    OutputFile(path, OutputFile::Mode::Append).write(text);
+bool append_line(std::string_view path, std::string_view line) {
+    try {
+        std::string text(line);
+        text += "\r\n";
+        OutputFile(path, OutputFile::Mode::Append).write(text);
+        return true;
+    } catch (const AutomationError&) {
+        return false;
+    }
 }
 
 OutputFile::OutputFile(std::string_view path, Mode mode)
     : path_(path),
-      descriptor_(open(native(path).c_str(), O_WRONLY | O_CLOEXEC | flags_of(mode),
-                       rights_before_umask)) {
+      descriptor_(
+          open(native(path).c_str(), O_WRONLY | O_CLOEXEC | flags_of(mode), rights_before_umask)) {
     if (descriptor_ < 0) {
         raise_file_error(errno, path);
     }
 }
 
-OutputFile::~OutputFile() { close(descriptor_); }
+OutputFile::~OutputFile() {
+    close(descriptor_);
+}
 
 void OutputFile::write(std::string_view text) {
     while (!text.empty()) {

@@ -1,5 +1,6 @@
 #include "platform/files.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -9,7 +10,6 @@
 #include <filesystem>
 #include <system_error>
 
-#include "cvdeveloper/automation/error.h"
 #include "cvdeveloper/automation/runtime_errors.h"
 #include "platform/clock.h"
 #include "platform/posix/file_errors.h"
@@ -32,7 +32,9 @@ void check(const std::error_code& error, std::string_view path) {
     }
 }
 
-Date local_time(const struct statx_timestamp& stamp) { return local_date(stamp.tv_sec); }
+Date local_time(const struct statx_timestamp& stamp) {
+    return local_date(stamp.tv_sec);
+}
 
 }  // namespace
 
@@ -44,9 +46,13 @@ Kind kind_of(std::string_view path) {
     return kind_of(fs::status(native(path), error));
 }
 
-bool file_exists(std::string_view path) { return kind_of(path) == Kind::File; }
+bool file_exists(std::string_view path) {
+    return kind_of(path) == Kind::File;
+}
 
-bool folder_exists(std::string_view path) { return kind_of(path) == Kind::Folder; }
+bool folder_exists(std::string_view path) {
+    return kind_of(path) == Kind::Folder;
+}
 
 std::vector<Entry> entries(std::string_view folder) {
     std::vector<Entry> list;
@@ -54,7 +60,8 @@ std::vector<Entry> entries(std::string_view folder) {
     fs::directory_iterator iterator(native(folder), error);
     while (!error && iterator != fs::directory_iterator()) {
         std::error_code unreadable;
-        list.push_back({iterator->path().filename().string(), kind_of(iterator->status(unreadable))});
+        list.push_back(
+            {iterator->path().filename().string(), kind_of(iterator->status(unreadable))});
         iterator.increment(error);
     }
     if (error == std::errc::no_such_file_or_directory) {

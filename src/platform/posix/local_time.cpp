@@ -4,7 +4,9 @@
 
 namespace cvdeveloper {
 
-Date now() { return local_date(std::time(nullptr)); }
+Date now() {
+    return local_date(std::time(nullptr));
+}
 
 Date local_date(std::time_t moment) {
     std::tm local{};
