@@ -56,6 +56,10 @@ std::string to_text(Variant&& value) {
     return to_text(static_cast<const Variant&>(value));
 }
 
+std::string joined_text(Variant&& value) {
+    return value.is<Null>() ? std::string() : to_text(std::move(value));
+}
+
 bool to_boolean(const Variant& value) {
     if (const auto* flag = value.get_if<bool>()) {
         return *flag;

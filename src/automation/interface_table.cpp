@@ -30,9 +30,9 @@ std::size_t Operation::required_arguments() const {
 }
 
 InterfaceTable::InterfaceTable(std::string_view class_name, std::string_view help,
-                               std::vector<Topic> topics)
+                               std::vector<TopicRows> topics)
     : class_name_(class_name), help_(help), topics_(std::move(topics)) {
-    for (const Topic& topic : topics_) {
+    for (const TopicRows& topic : topics_) {
         for (const Operation& operation : topic.operations) {
             ordered_.push_back(&operation);
             Rows& rows = by_name_[lower_case(operation.name)];

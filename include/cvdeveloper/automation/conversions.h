@@ -11,6 +11,8 @@ namespace cvdeveloper {
 // range error 6. Texts of numbers, dates and truth values are in the regional form.
 std::string to_text(const Variant& value);
 std::string to_text(Variant&& value);
+// As joining texts takes a value: null is "".
+std::string joined_text(Variant&& value);
 bool to_boolean(const Variant& value);
 std::int16_t to_int16(const Variant& value);
 std::int32_t to_int32(const Variant& value);

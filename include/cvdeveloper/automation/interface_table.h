@@ -101,7 +101,7 @@ struct Operation {
 };
 
 // One subject's rows; a page of the reference.
-struct Topic {
+struct TopicRows {
     std::string_view name;  // "activities"
     std::string_view help;
     std::span<const Operation> operations;
@@ -110,11 +110,11 @@ struct Topic {
 // All operations of one class, made from its topics at first use.
 class InterfaceTable {
   public:
-    InterfaceTable(std::string_view class_name, std::string_view help, std::vector<Topic> topics);
+    InterfaceTable(std::string_view class_name, std::string_view help, std::vector<TopicRows> topics);
 
     [[nodiscard]] std::string_view class_name() const noexcept { return class_name_; }
     [[nodiscard]] std::string_view help() const noexcept { return help_; }
-    [[nodiscard]] std::span<const Topic> topics() const noexcept { return topics_; }
+    [[nodiscard]] std::span<const TopicRows> topics() const noexcept { return topics_; }
     // In ascending id, reading before writing: the order of a vtable.
     [[nodiscard]] std::span<const Operation* const> operations() const noexcept { return ordered_; }
 
@@ -127,7 +127,7 @@ class InterfaceTable {
   private:
     std::string_view class_name_;
     std::string_view help_;
-    std::vector<Topic> topics_;
+    std::vector<TopicRows> topics_;
     std::vector<const Operation*> ordered_;
     struct Rows {
         const Operation* read = nullptr;  // the method, or the reading of a property

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "cvdeveloper/base.h"
+#include "cvdeveloper/data/diagnostic_log.h"
+#include "cvdeveloper/session/session_frame.h"
+#include "cvdeveloper/tools/file_system.h"
+#include "cvdeveloper/tools/tools.h"
+
+namespace cvdeveloper {
+
+// The root of the object model: attach it to a host, then call its operations.
+//
+//     auto app = cvdeveloper::make_object<cvdeveloper::Application>();
+//     app->Corvanta_InitConnector("/srv/buero", "chef", "");
+//     app->AKT_Create("", "Anruf");
+//
+// One caller at a time; a second thread waits.
+class Application final : public SessionObject, public SessionFrame, public DiagnosticLog {
+  public:
+    static constexpr std::string_view automation_name = "Application";
+
+    Application();
+
+    // The worker objects, made at first use and then kept.
+    Ref<clsBase> oBase();
+    Ref<clsTools> oTools();
+    Ref<clsFileSystem> oFileSystem();
+
+    [[nodiscard]] const InterfaceTable& table() const noexcept override;
+
+  private:
+    explicit Application(Ref<Session> shared);
+
+    Ref<clsBase> base_;
+    Ref<clsTools> tools_;
+    Ref<clsFileSystem> file_system_;
+};
+
+}  // namespace cvdeveloper

@@ -1,0 +1,104 @@
+#pragma once
+
+#include <mutex>
+#include <optional>
+#include <string>
+
+#include "cvdeveloper/automation/library_object.h"
+#include "cvdeveloper/enumerations.h"
+#include "cvdeveloper/host/bound.h"
+
+namespace cvdeveloper {
+
+// Everything that belongs to one session: which host it is attached to, the host's objects, log
+// settings, and the values that the interface keeps. Every library object of a session shares it.
+class Session final : public RefCounted {
+  public:
+    [[nodiscard]] enumInitType kind() const noexcept { return kind_; }
+
+    // The host in use. Error 601 when no session is attached; so are the services'.
+    host::Session& host();
+    host::Application& application();  // only in a session of kind INITTYPE_APPLICATION
+    host::Connector& connector();      // only in a session of kind INITTYPE_CONNECTOR
+    host::Util& util();
+    host::Blob& blob();
+
+    // k of a field's value, as text: what the interface means by reading a text from a row.
+    std::string text(Variant value);
+
+    // The host's objects as callers see them; nothing where there is none.
+    [[nodiscard]] const ObjectRef& application_object() const noexcept;
+    [[nodiscard]] const ObjectRef& connector_object() const noexcept;
+    [[nodiscard]] const ObjectRef& util_object() const noexcept { return util_.object(); }
+    [[nodiscard]] const ObjectRef& blob_object() const noexcept { return blob_.object(); }
+    [[nodiscard]] const ObjectRef& db_ini_object() const noexcept { return db_ini_; }
+    [[nodiscard]] const std::string& folder() const noexcept { return folder_; }
+
+    // Steps of attaching and detaching, in the order in which the frame takes them.
+    void detach();
+    void keep_application(host::Bound<host::Application> application);
+    void keep_connector(host::Bound<host::Connector> connector);
+    void keep_util(const ObjectRef& util);
+    void keep_blob(const ObjectRef& blob);
+    void keep_db_ini(ObjectRef db_ini);
+    void keep_folder(std::string folder) { folder_ = std::move(folder); }
+    void attach(enumInitType kind);
+
+    bool sql_log = false;  // FlagSqlLog
+    std::string log_path;  // LogPath
+    std::optional<std::string> database_password;
+
+    // Values read once and then kept for the life of the Application.
+    std::string letter_salutation;
+    std::string picture_word_long;
+    std::string picture_word_short;
+
+    std::recursive_mutex guard;
+
+  private:
+    host::Session* attached() noexcept;
+
+    enumInitType kind_ = INITTYPE_NONE;
+    host::Bound<host::Application> application_;
+    host::Bound<host::Connector> connector_;
+    host::Bound<host::Util> util_;
+    host::Bound<host::Blob> blob_;
+    ObjectRef db_ini_;
+    std::string folder_;
+};
+
+// Error 601 "CVDeveloper wurde nicht initialisiert".
+[[noreturn]] void raise_not_initialised();
+
+// A subject's operations. Holds nothing but the session; made on the spot where it is needed:
+// MasterData{session}.STD_GetField("TITEL").
+class Topic {
+  public:
+    explicit Topic(Session& session) noexcept : session_(&session) {}
+
+  protected:
+    [[nodiscard]] Session& session() const noexcept { return *session_; }
+
+  private:
+    Session* session_;
+};
+
+// A library object that belongs to a session.
+class SessionObject : public LibraryObject {
+  public:
+    explicit SessionObject(Ref<Session> session) noexcept : session_(std::move(session)) {}
+
+    [[nodiscard]] Session& session() const noexcept { return *session_; }
+    [[nodiscard]] const Ref<Session>& shared_session() const noexcept { return session_; }
+    [[nodiscard]] std::recursive_mutex* guard() noexcept override { return &session_->guard; }
+
+  private:
+    Ref<Session> session_;
+};
+
+// Where a bound topic finds its session.
+inline Session& session_of(Object& object) {
+    return static_cast<SessionObject&>(object).session();
+}
+
+}  // namespace cvdeveloper

@@ -1,0 +1,17 @@
+#include <ctime>
+
+#include "platform/clock.h"
+
+namespace cvdeveloper {
+
+Date now() {
+    const std::time_t seconds = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&seconds, &local);
+    // A leap second counts as the minute's last.
+    const int second = local.tm_sec < 60 ? local.tm_sec : 59;
+    return make_date({local.tm_year + 1900, local.tm_mon + 1, local.tm_mday},
+                     {local.tm_hour, local.tm_min, second});
+}
+
+}  // namespace cvdeveloper

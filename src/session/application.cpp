@@ -1,0 +1,74 @@
+#include "cvdeveloper/application.h"
+
+namespace cvdeveloper {
+
+namespace {
+
+constexpr Operation rows[] = {
+    {.id = 40,
+     .name = "oBase",
+     .kind = OperationKind::Get,
+     .binding = bind<&Application::oBase>,
+     .parameters = {},
+     .help = {.what = "The data operations that work on any table.",
+              .result = "The same object each time.",
+              .example = "app.oBase.Sql_Find(\"AKT\", \"1=2\")"}},
+    {.id = 41,
+     .name = "oTools",
+     .kind = OperationKind::Get,
+     .binding = bind<&Application::oTools>,
+     .parameters = {},
+     .help = {.what = "Formatting, texts, working days and placeholders.",
+              .result = "The same object each time.",
+              .example = "app.oTools.FormatNumber(1234.5)"}},
+    {.id = 42,
+     .name = "oFileSystem",
+     .kind = OperationKind::Get,
+     .binding = bind<&Application::oFileSystem>,
+     .parameters = {},
+     .help = {.what = "Files and folders.",
+              .result = "The same object each time.",
+              .example = "app.oFileSystem.FileExists(\"brief.txt\")"}},
+};
+
+}  // namespace
+
+Application::Application() : Application(make_object<Session>()) {}
+
+Application::Application(Ref<Session> shared)
+    : SessionObject(shared), SessionFrame(*shared), DiagnosticLog(*shared) {}
+
+Ref<clsBase> Application::oBase() {
+    if (!base_) {
+        base_ = make_object<clsBase>(shared_session());
+    }
+    return base_;
+}
+
+Ref<clsTools> Application::oTools() {
+    if (!tools_) {
+        tools_ = make_object<clsTools>(shared_session());
+    }
+    return tools_;
+}
+
+Ref<clsFileSystem> Application::oFileSystem() {
+    if (!file_system_) {
+        file_system_ = make_object<clsFileSystem>();
+    }
+    return file_system_;
+}
+
+const InterfaceTable& Application::table() const noexcept {
+    static const InterfaceTable all(
+        "Application", "The root of the object model: session, records, worker objects.",
+        {
+            {"session", "Attaching to a host, and what the session tells about itself.",
+             SessionFrame::operations()},
+            {"log", "The diagnostic log.", DiagnosticLog::operations()},
+            {"workers", "The worker objects of a session.", rows},
+        });
+    return all;
+}
+
+}  // namespace cvdeveloper
