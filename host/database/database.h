@@ -31,6 +31,7 @@ class Statement {
     virtual ~Statement() = default;
 
     [[nodiscard]] virtual const std::vector<ResultColumn>& columns() const noexcept = 0;
+    [[nodiscard]] virtual std::size_t parameter_count() const noexcept = 0;
     // Appends all rows of the result.
     virtual void query(std::span<const Value> values, Rows& rows) = 0;
     // The number of rows written.
@@ -63,7 +64,8 @@ class Database {
     // False again when the database has ended a transaction by itself.
     [[nodiscard]] virtual bool in_transaction() const noexcept = 0;
 
-    [[nodiscard]] virtual const Catalog& catalog() const noexcept = 0;
+    // Outlives the connection where record sets still refer to it.
+    [[nodiscard]] virtual std::shared_ptr<const Catalog> catalog() const noexcept = 0;
     // Stops the statement that runs at the moment; it raises Interrupt. From any thread.
     virtual void interrupt() noexcept = 0;
 };

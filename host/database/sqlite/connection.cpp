@@ -43,7 +43,6 @@ Connection::Connection(const std::string& path, const OpenOptions& options) : op
     sqlite3_db_config(opened, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_db_config(opened, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     install_functions(opened);
-    access_.catalog = &catalog_;
     install_access_check(opened, access_);
 
     run_script("PRAGMA journal_mode=WAL; PRAGMA foreign_keys=OFF; PRAGMA temp_store=MEMORY;"
@@ -77,10 +76,6 @@ std::unique_ptr<Statement> Connection::prepare(std::string_view text, Author aut
             sqlite3_stmt_isexplain(prepared) != 0 || sqlite3_column_count(prepared) == 0) {
             raise(HostError::StatementRefused, "Erlaubt ist genau eine lesende SELECT-Anweisung.");
         }
-        const auto placeholders = std::ranges::count(text, '?');
-        if (sqlite3_bind_parameter_count(prepared) > placeholders) {
-            raise(HostError::StatementRefused, "Platzhalter ohne Wert sind nicht erlaubt.");
-        }
     }
     return std::make_unique<PreparedStatement>(*this, std::move(handle), author);
 }
@@ -98,10 +93,9 @@ void Connection::begin() {
 }
 
 void Connection::commit() {
-    // Waits for the disk.
-    std::optional<BlockingScope> blocking;
+    std::optional<BlockingScope> waiting;
     if (options_.full_sync) {
-        blocking.emplace();
+        waiting.emplace();
     }
     commit_->execute({});
 }
@@ -150,7 +144,7 @@ void Connection::read_catalog() {
         Author::Host);
     Rows rows(statement->columns().size());
     statement->query({}, rows);
-    catalog_ = Catalog();
+    auto catalog = std::make_shared<Catalog>();
     for (std::size_t i = 0; i < rows.size();) {
         const std::string_view table = rows[i][0].text();
         std::vector<TableColumn> columns;
@@ -159,8 +153,10 @@ void Connection::read_catalog() {
             columns.push_back({std::string(row[1].text()), read_declared_type(row[2].text()),
                                row[3].integer != 0, std::string(row[4].text())});
         }
-        catalog_.add(Table(std::string(table), std::move(columns)));
+        catalog->add(Table(std::string(table), std::move(columns)));
     }
+    access_.catalog = catalog.get();
+    catalog_ = std::move(catalog);
 }
 
 Connection::Running::Running(Connection& connection, Author author)
@@ -229,6 +225,8 @@ void Connection::raise_failure(int code) const {
             raise(HostError::Database,
                   "Die Datenbankdatei kann nicht gelesen oder geschrieben werden: " + message +
                       ".");
+        case SQLITE_CONSTRAINT:
+            raise(HostError::ValueRefused, "Die Datenbank lehnt den Datensatz ab: " + message + ".");
         case SQLITE_NOMEM:
             throw std::bad_alloc();
         default:

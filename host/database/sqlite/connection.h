@@ -40,7 +40,9 @@ class Connection final : public Database {
     void release_savepoint() override;
     void rollback_to_savepoint() noexcept override;
     [[nodiscard]] bool in_transaction() const noexcept override;
-    [[nodiscard]] const Catalog& catalog() const noexcept override { return catalog_; }
+    [[nodiscard]] std::shared_ptr<const Catalog> catalog() const noexcept override {
+        return catalog_;
+    }
     void interrupt() noexcept override;
 
     // Reads the tables anew, after the schema was made.
@@ -76,7 +78,7 @@ class Connection final : public Database {
     std::unique_ptr<sqlite3, Close> handle_;
     OpenOptions options_;
     Access access_;
-    Catalog catalog_;
+    std::shared_ptr<const Catalog> catalog_;
     std::atomic<bool> interrupted_ = false;
     std::optional<BlockingScope> long_run_;
     std::chrono::steady_clock::time_point waiting_since_;

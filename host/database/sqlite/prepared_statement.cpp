@@ -64,6 +64,10 @@ PreparedStatement::PreparedStatement(Connection& connection, Handle handle, Auth
     }
 }
 
+std::size_t PreparedStatement::parameter_count() const noexcept {
+    return static_cast<std::size_t>(sqlite3_bind_parameter_count(handle_.get()));
+}
+
 void PreparedStatement::bind(std::span<const Value> values) {
     int position = 0;
     for (const Value& value : values) {
@@ -125,6 +129,10 @@ void PreparedStatement::read_row(Rows& rows) const {
 std::int64_t PreparedStatement::execute(std::span<const Value> values) {
     const Connection::Running running(connection_, author_);
     const ResetAtEnd reset(handle_.get());
+    // Outside a transaction a write ends with waiting for the disk.
+    if (connection_.options_.full_sync && !connection_.in_transaction()) {
+        connection_.give_up_interpreter_lock();
+    }
     bind(values);
     while (step()) {
     }

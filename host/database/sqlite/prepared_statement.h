@@ -21,6 +21,7 @@ class PreparedStatement final : public Statement {
     [[nodiscard]] const std::vector<ResultColumn>& columns() const noexcept override {
         return columns_;
     }
+    [[nodiscard]] std::size_t parameter_count() const noexcept override;
     void query(std::span<const Value> values, Rows& rows) override;
     std::int64_t execute(std::span<const Value> values) override;
 
