@@ -54,6 +54,9 @@ class Database {
     // Runs several statements of the host's own, such as the schema.
     virtual void run_script(const std::string& script) = 0;
 
+    // Readers and a writer do not stand in each other's way from here on. The file keeps it.
+    virtual void use_write_ahead_log() = 0;
+
     // A writing transaction, begun at once so that it cannot fail for somebody else's later.
     virtual void begin() = 0;
     virtual void commit() = 0;

@@ -109,9 +109,8 @@ std::optional<Date> parse_date_text(std::string_view text) noexcept {
     }
     double time = 0;
     if (text.size() > 10) {
-        const auto parsed = text[10] == ' ' || text[10] == 'T'
-                                ? parse_time(text.substr(11))
-                                : std::optional<double>();
+        const auto parsed = text[10] == ' ' || text[10] == 'T' ? parse_time(text.substr(11))
+                                                               : std::optional<double>();
         if (!parsed) {
             return std::nullopt;
         }

@@ -209,9 +209,9 @@ void ClientRecordSet::set_at(std::size_t position, const Variant& value) {
     }
     const Column& column = shape_->columns()[position];
     if (!column.writable) {
-        raise(HostError::NotUpdatable,
-              "Das Feld '" + column.name + "' gehört nicht zu " +
-                  std::string(shape_->table_name()) + " und kann nicht geschrieben werden.");
+        raise(HostError::NotUpdatable, "Das Feld '" + column.name + "' gehört nicht zu " +
+                                           std::string(shape_->table_name()) +
+                                           " und kann nicht geschrieben werden.");
     }
     Cell& cell = rows_[at_][position];
     Cell written = cell;
@@ -268,10 +268,9 @@ ObjectRef ClientRecordSet::fields(const Variant& name_or_position) {
 const InterfaceTable& ClientRecordSet::table() const noexcept {
     static constexpr Parameter item_parameters[] = {
         {.name = "Index", .help = "Name oder Nummer (ab 0) des Feldes"}};
-    static constexpr Parameter fields_parameters[] = {
-        {.name = "Index",
-         .help = "Name oder Nummer (ab 0) des Feldes",
-         .default_value = Missing{}}};
+    static constexpr Parameter fields_parameters[] = {{.name = "Index",
+                                                       .help = "Name oder Nummer (ab 0) des Feldes",
+                                                       .default_value = Missing{}}};
     static constexpr Operation rows[] = {
         {.id = 0,
          .name = "Item",

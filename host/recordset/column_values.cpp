@@ -25,7 +25,7 @@ std::string place_of(const Column& column) {
 
 std::string shown(const Variant& value) {
     try {
-        return "'" + std::string(first_units(to_text(value), 60)) + "'";
+        return in_quotes(first_units(to_text(value), 60));
     } catch (const AutomationError&) {
         return "Der Wert";
     }

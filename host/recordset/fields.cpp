@@ -68,7 +68,8 @@ Variant Field::get_chunk(std::int32_t size) {
         chunk_of_ = cell.data;
         chunk_begin_ = 0;
     }
-    const std::string_view rest = cell.text().substr(std::min<std::size_t>(chunk_begin_, cell.size));
+    const std::string_view rest =
+        cell.text().substr(std::min<std::size_t>(chunk_begin_, cell.size));
     if (rest.empty()) {
         chunk_of_ = nullptr;
         return Null{};

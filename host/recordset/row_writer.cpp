@@ -9,14 +9,11 @@ namespace cvdeveloper::standalone {
 
 namespace {
 
-std::string key_text(const ClientRecordSet& record_set, std::span<const Cell> row) {
-    return "'" + std::string(row[record_set.shape().key()].text()) + "'";
-}
-
 void require_key(const Shape& shape) {
     if (shape.base() == nullptr) {
-        raise(HostError::NotUpdatable,
-              "Das Recordset enthält keine Spalte einer Tabelle und kann nicht geschrieben werden.");
+        raise(
+            HostError::NotUpdatable,
+            "Das Recordset enthält keine Spalte einer Tabelle und kann nicht geschrieben werden.");
     }
     if (shape.base()->key() == Table::npos) {
         raise(HostError::NotUpdatable, "Die Tabelle " + shape.base()->name() +
@@ -59,7 +56,7 @@ std::string shown(const Cell& cell, ColumnType type) {
     if (cell.kind == CellKind::Bytes) {
         return std::to_string(cell.size) + " Bytes";
     }
-    return "'" + std::string(first_units(to_text(to_variant(cell, type)), 60)) + "'";
+    return in_quotes(first_units(to_text(to_variant(cell, type)), 60));
 }
 
 }  // namespace
@@ -193,8 +190,8 @@ void RowWriter::raise_conflict(const ClientRecordSet& record_set,
     const Value key = change.original[shape.key()].value();
     database_.prepare(text_, Author::Host)->query({&key, 1}, present);
 
-    const std::string row = "Der Datensatz " + key_text(record_set, change.original) + " in " +
-                            shape.base()->name();
+    const std::string row = "Der Datensatz " + in_quotes(change.original[shape.key()].text()) +
+                            " in " + shape.base()->name();
     if (present.size() == 0) {
         raise(HostError::RowChanged, row + " wurde inzwischen von anderer Seite gelöscht.");
     }
@@ -209,14 +206,13 @@ void RowWriter::raise_conflict(const ClientRecordSet& record_set,
         const Column& column = shape.columns()[position];
         values = names.empty() ? ": dort steht jetzt " + shown(now, column.type.type) +
                                      ", geschrieben werden sollte " +
-                                     shown(record_set.cells(change.row)[position],
-                                           column.type.type)
+                                     shown(record_set.cells(change.row)[position], column.type.type)
                                : std::string();
         names += (names.empty() ? "" : ", ") + column.name;
     }
-    raise(HostError::RowChanged,
-          row + " wurde inzwischen von anderer Seite geändert" +
-              (names.empty() ? std::string() : " (" + names + ")") + values + ".");
+    raise(HostError::RowChanged, row + " wurde inzwischen von anderer Seite geändert" +
+                                     (names.empty() ? std::string() : " (" + names + ")") + values +
+                                     ".");
 }
 
 }  // namespace cvdeveloper::standalone

@@ -22,8 +22,8 @@ struct Column {
     std::string name;
     DeclaredType type;
     bool required = false;
-    bool writable = false;          // belongs to the table that the record set is written to
-    const Table* table = nullptr;   // nullptr: an expression
+    bool writable = false;         // belongs to the table that the record set is written to
+    const Table* table = nullptr;  // nullptr: an expression
     std::size_t table_column = 0;
 
     // Differs from the name where the statement gives an alias.

@@ -45,8 +45,8 @@ bool is_day(std::string_view text) noexcept {
 }
 
 bool is_comparison(const Token& token) noexcept {
-    static constexpr std::array<std::string_view, 8> operators = {"=",  "==", "<>", "!=",
-                                                                  "<", "<=", ">",  ">="};
+    static constexpr std::array<std::string_view, 8> operators = {
+        "=", "==", "<>", "!=", "<", "<=", ">", ">="};
     return token.kind == TokenKind::Operator &&
            std::ranges::find(operators, token.text) != operators.end();
 }
@@ -152,9 +152,8 @@ void StatementReader::read_keyword(const Token& token) {
 bool StatementReader::may_lift(std::size_t index) const {
     const Level& level = levels_.back();
     const Token* const before = at(index - 1);
-    return level.in_condition && !level.keeps_literals &&
-           result_.values.size() < most_parameters && before != nullptr &&
-           !before->is_keyword("COLLATE");
+    return level.in_condition && !level.keeps_literals && result_.values.size() < most_parameters &&
+           before != nullptr && !before->is_keyword("COLLATE");
 }
 
 void StatementReader::lift(Value value) {
@@ -200,12 +199,11 @@ bool StatementReader::is_compared_with_date(std::size_t index) const {
     const Token& before = tokens_[index - 1];
     if (is_comparison(before) || before.is_keyword("BETWEEN")) {
         column = index - 2;
-    } else if (before.is_keyword("AND") && index >= 4 &&
-               tokens_[index - 3].is_keyword("BETWEEN")) {
+    } else if (before.is_keyword("AND") && index >= 4 && tokens_[index - 3].is_keyword("BETWEEN")) {
         column = index - 4;
     } else if (before.is(",") || before.is("(")) {
-        while (column > 0 && (tokens_[column].kind == TokenKind::String ||
-                              tokens_[column].is(","))) {
+        while (column > 0 &&
+               (tokens_[column].kind == TokenKind::String || tokens_[column].is(","))) {
             --column;
         }
         column = column >= 2 && tokens_[column].is("(") && tokens_[column - 1].is_keyword("IN")
@@ -241,8 +239,8 @@ bool StatementReader::finds_never_true() const {
     if (std::ranges::count_if(tokens_, is_select) != 1) {
         return false;
     }
-    const auto where = std::ranges::find_if(
-        tokens_, [](const Token& token) { return token.is_keyword("WHERE"); });
+    const auto where =
+        std::ranges::find_if(tokens_, [](const Token& token) { return token.is_keyword("WHERE"); });
     auto left = where == tokens_.end() ? where : where + 1;
     const bool bracketed = left != tokens_.end() && left->is("(");
     left += bracketed ? 1 : 0;

@@ -35,9 +35,7 @@ class Dictionary {
         }
     }
     [[nodiscard]] const Spelling& spelling() const noexcept { return spelling_; }
-    [[nodiscard]] bool is_date_column(std::string_view name) const {
-        return dates_.contains(name);
-    }
+    [[nodiscard]] bool is_date_column(std::string_view name) const { return dates_.contains(name); }
 
   private:
     Spelling spelling_;

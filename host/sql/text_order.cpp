@@ -28,8 +28,8 @@ constexpr char32_t fold(char32_t code) noexcept {
     if (code == 0x1E9E) {
         return 0xDF;
     }
-    const bool even_is_capital = (code >= 0x100 && code <= 0x137 && code != 0x130) ||
-                                 (code >= 0x14A && code <= 0x177);
+    const bool even_is_capital =
+        (code >= 0x100 && code <= 0x137 && code != 0x130) || (code >= 0x14A && code <= 0x177);
     const bool odd_is_capital =
         (code >= 0x139 && code <= 0x148) || (code >= 0x179 && code <= 0x17E);
     if (even_is_capital) {
@@ -67,7 +67,9 @@ constexpr std::array<std::uint8_t, 128> ascii_folded = [] {
     return table;
 }();
 
-constexpr bool is_ascii(char c) noexcept { return static_cast<unsigned char>(c) < 0x80; }
+constexpr bool is_ascii(char c) noexcept {
+    return static_cast<unsigned char>(c) < 0x80;
+}
 
 std::string_view without_trailing_blanks(std::string_view text) noexcept {
     const std::size_t last = text.find_last_not_of(' ');

@@ -14,18 +14,20 @@ namespace {
 // Everything a caller's statement may call. None of these reaches a file, loads code or makes
 // values of a size that its arguments do not have.
 constexpr std::string_view allowed_functions[] = {
-    "abs",        "acos",       "asin",      "atan",    "atan2",   "avg",       "ceil",
-    "ceiling",    "char",       "coalesce",  "concat",  "cos",     "count",     "cume_dist",
-    "date",       "datetime",   "degrees",   "dense_rank", "exp",  "first_value", "floor",
-    "glob",       "group_concat", "hex",     "ifnull",  "iif",     "instr",     "julianday",
-    "lag",        "last_value", "lcase",     "lead",    "left",    "len",       "length",
-    "like",       "ln",         "log",       "log10",   "log2",    "lower",     "ltrim",
-    "max",        "min",        "mod",       "now",     "nth_value", "ntile",   "nullif",
-    "percent_rank", "pi",       "pow",       "power",   "quote",   "radians",   "random",
-    "rank",       "replace",    "right",     "round",   "row_number", "rtrim",  "sign",
-    "sin",        "soundex",    "sqrt",      "strftime", "substr", "substring", "sum",
-    "tan",        "time",       "total",     "trim",    "trunc",   "typeof",    "ucase",
-    "unicode",    "unixepoch",  "upper",
+    "abs",        "acos",         "asin",      "atan",      "atan2",        "avg",
+    "ceil",       "ceiling",      "char",      "coalesce",  "concat",       "cos",
+    "count",      "cume_dist",    "date",      "datetime",  "degrees",      "dense_rank",
+    "exp",        "first_value",  "floor",     "glob",      "group_concat", "hex",
+    "ifnull",     "iif",          "instr",     "julianday", "lag",          "last_value",
+    "lcase",      "lead",         "left",      "len",       "length",       "like",
+    "ln",         "log",          "log10",     "log2",      "lower",        "ltrim",
+    "max",        "min",          "mod",       "now",       "nth_value",    "ntile",
+    "nullif",     "percent_rank", "pi",        "pow",       "power",        "quote",
+    "radians",    "random",       "rank",      "replace",   "right",        "round",
+    "row_number", "rtrim",        "sign",      "sin",       "soundex",      "sqrt",
+    "strftime",   "substr",       "substring", "sum",       "tan",          "time",
+    "total",      "trim",         "trunc",     "typeof",    "ucase",        "unicode",
+    "unixepoch",  "upper",
 };
 static_assert(std::ranges::is_sorted(allowed_functions));
 

@@ -31,8 +31,8 @@ Connection::Connection(const std::string& path, const OpenOptions& options) : op
     const int code = sqlite3_open_v2(path.c_str(), &opened, flags, nullptr);
     handle_.reset(opened);
     if (code != SQLITE_OK) {
-        raise(HostError::Folder, "Die Datenbank '" + path + "' kann nicht geöffnet werden: " +
-                                     sqlite3_errstr(code) + ".");
+        raise(HostError::Folder, "Die Datenbank '" + path +
+                                     "' kann nicht geöffnet werden: " + sqlite3_errstr(code) + ".");
     }
     sqlite3_busy_handler(opened, &on_busy, this);
     sqlite3_progress_handler(opened, steps_of_a_short_statement, &on_progress, this);
@@ -45,8 +45,9 @@ Connection::Connection(const std::string& path, const OpenOptions& options) : op
     install_functions(opened);
     install_access_check(opened, access_);
 
-    run_script("PRAGMA journal_mode=WAL; PRAGMA foreign_keys=OFF; PRAGMA temp_store=MEMORY;"
-               "PRAGMA secure_delete=OFF; PRAGMA cache_size=-16000;");
+    run_script(
+        "PRAGMA foreign_keys=OFF; PRAGMA temp_store=MEMORY; PRAGMA secure_delete=OFF;"
+        "PRAGMA cache_size=-16000;");
     run_script(options.full_sync ? "PRAGMA synchronous=FULL" : "PRAGMA synchronous=OFF");
     begin_ = prepare("BEGIN IMMEDIATE", Author::Host);
     commit_ = prepare("COMMIT", Author::Host);
@@ -63,9 +64,8 @@ std::unique_ptr<Statement> Connection::prepare(std::string_view text, Author aut
     const Running running(*this, author);
     sqlite3_stmt* prepared = nullptr;
     const char* tail = nullptr;
-    const int code =
-        sqlite3_prepare_v3(handle_.get(), text.data(), static_cast<int>(text.size()),
-                           SQLITE_PREPARE_PERSISTENT, &prepared, &tail);
+    const int code = sqlite3_prepare_v3(handle_.get(), text.data(), static_cast<int>(text.size()),
+                                        SQLITE_PREPARE_PERSISTENT, &prepared, &tail);
     PreparedStatement::Handle handle(prepared);
     if (code != SQLITE_OK) {
         raise_failure(code);
@@ -86,6 +86,10 @@ void Connection::run_script(const std::string& script) {
     if (code != SQLITE_OK) {
         raise_failure(code);
     }
+}
+
+void Connection::use_write_ahead_log() {
+    run_script("PRAGMA journal_mode=WAL");
 }
 
 void Connection::begin() {
@@ -210,10 +214,9 @@ void Connection::raise_failure(int code) const {
             throw Interrupt();
         case SQLITE_BUSY:
         case SQLITE_LOCKED:
-            raise(HostError::LockTimeout,
-                  "Die Datenbank ist seit mehr als " +
-                      std::to_string(options_.timeout.count() / 1000) +
-                      " Sekunden von anderer Seite gesperrt.");
+            raise(HostError::LockTimeout, "Die Datenbank ist seit mehr als " +
+                                              std::to_string(options_.timeout.count() / 1000) +
+                                              " Sekunden von anderer Seite gesperrt.");
         case SQLITE_CORRUPT:
         case SQLITE_NOTADB:
             raise(HostError::Database, "Die Datenbankdatei ist beschädigt: " + message + ".");
@@ -222,11 +225,12 @@ void Connection::raise_failure(int code) const {
         case SQLITE_IOERR:
         case SQLITE_CANTOPEN:
         case SQLITE_READONLY:
-            raise(HostError::Database,
-                  "Die Datenbankdatei kann nicht gelesen oder geschrieben werden: " + message +
-                      ".");
+            raise(
+                HostError::Database,
+                "Die Datenbankdatei kann nicht gelesen oder geschrieben werden: " + message + ".");
         case SQLITE_CONSTRAINT:
-            raise(HostError::ValueRefused, "Die Datenbank lehnt den Datensatz ab: " + message + ".");
+            raise(HostError::ValueRefused,
+                  "Die Datenbank lehnt den Datensatz ab: " + message + ".");
         case SQLITE_NOMEM:
             throw std::bad_alloc();
         default:

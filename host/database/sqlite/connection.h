@@ -24,7 +24,7 @@ struct OpenOptions {
     bool full_sync = true;
 };
 
-// A database file in WAL mode.
+// A database file. Opening one changes nothing in it.
 class Connection final : public Database {
   public:
     // Errors: Folder where the file cannot be opened, Database where it is damaged.
@@ -33,6 +33,7 @@ class Connection final : public Database {
 
     std::unique_ptr<Statement> prepare(std::string_view text, Author author) override;
     void run_script(const std::string& script) override;
+    void use_write_ahead_log() override;
     void begin() override;
     void commit() override;
     void rollback() noexcept override;

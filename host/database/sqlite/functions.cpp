@@ -82,9 +82,8 @@ void left(sqlite3_context* context, int, sqlite3_value** values) {
     const std::string_view text = text_of(arguments[0]);
     const std::int64_t wanted = sqlite3_value_int64(arguments[1]);
     give(context,
-         text.substr(0, wanted <= 0
-                            ? 0
-                            : utf8::prefix_length(text, static_cast<std::size_t>(wanted))));
+         text.substr(
+             0, wanted <= 0 ? 0 : utf8::prefix_length(text, static_cast<std::size_t>(wanted))));
 }
 
 void upper(sqlite3_context* context, int, sqlite3_value** values) {
@@ -101,8 +100,7 @@ void lower(sqlite3_context* context, int, sqlite3_value** values) {
 
 void len(sqlite3_context* context, int, sqlite3_value** values) {
     if (!is_null(*values)) {
-        sqlite3_result_int64(context,
-                             static_cast<std::int64_t>(length_in_units(text_of(*values))));
+        sqlite3_result_int64(context, static_cast<std::int64_t>(length_in_units(text_of(*values))));
     }
 }
 
@@ -128,10 +126,9 @@ struct Function {
 };
 
 constexpr Function functions[] = {
-    {"like", 2, like},   {"like", 3, like},     {"right", 2, right},
-    {"left", 2, left},   {"upper", 1, upper},   {"ucase", 1, upper},
-    {"lower", 1, lower}, {"lcase", 1, lower},   {"len", 1, len},
-    {"concat", -1, concat}, {"now", 0, now_text, false},
+    {"like", 2, like},   {"like", 3, like},      {"right", 2, right},         {"left", 2, left},
+    {"upper", 1, upper}, {"ucase", 1, upper},    {"lower", 1, lower},         {"lcase", 1, lower},
+    {"len", 1, len},     {"concat", -1, concat}, {"now", 0, now_text, false},
 };
 
 }  // namespace

@@ -109,14 +109,16 @@ void PreparedStatement::read_row(Rows& rows) const {
                 const auto* text =
                     reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
                 rows.set_text(
-                    cell, {text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column))});
+                    cell,
+                    {text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column))});
                 break;
             }
             case SQLITE_BLOB: {
                 const auto* bytes =
                     static_cast<const std::byte*>(sqlite3_column_blob(statement, column));
-                rows.set_bytes(cell, {bytes, static_cast<std::size_t>(
-                                                 sqlite3_column_bytes(statement, column))});
+                rows.set_bytes(
+                    cell,
+                    {bytes, static_cast<std::size_t>(sqlite3_column_bytes(statement, column))});
                 break;
             }
             default:
