@@ -27,6 +27,7 @@ class Application final : public SessionObject, public SessionFrame, public Diag
     Ref<clsFileSystem> oFileSystem();
 
     [[nodiscard]] const InterfaceTable& table() const noexcept override;
+    void visit_owned(OwnedVisitor& visitor) const override;
 
   private:
     explicit Application(Ref<Session> shared);
