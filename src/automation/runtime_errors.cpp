@@ -22,6 +22,8 @@ std::string_view text_of(RuntimeError error) noexcept {
             return "Dateiname oder -nummer falsch";
         case RuntimeError::FileNotFound:
             return "Datei nicht gefunden";
+        case RuntimeError::BadFileMode:
+            return "Dateimodus falsch";
         case RuntimeError::FileExists:
             return "Datei existiert bereits";
         case RuntimeError::DiskFull:
@@ -56,6 +58,8 @@ std::string_view text_of(RuntimeError error) noexcept {
             return "Falsche Anzahl an Argumenten";
         case RuntimeError::KeyInUse:
             return "Schlüssel ist bereits zugeordnet";
+        case RuntimeError::ElementNotFound:
+            return "Element nicht gefunden";
     }
     return "Anwendungs- oder objektdefinierter Fehler";
 }

@@ -9,6 +9,7 @@
 #include "cvdeveloper/data/user_profile.h"
 #include "cvdeveloper/details/features.h"
 #include "cvdeveloper/entities/master_data.h"
+#include "entities/activity_facts.h"
 #include "entities/new_record.h"
 
 namespace cvdeveloper {
@@ -16,7 +17,6 @@ namespace cvdeveloper {
 namespace {
 
 constexpr std::size_t subject_units = 256;
-constexpr std::size_t keyword_units = 50;
 
 // When an open activity comes up again: its date plus the type's interval. Day 0 where that is no
 // date of our time.
@@ -59,22 +59,23 @@ std::string Activities::AKT_Create(
         rs.set("Art_Dsn", util.SqlStrNull(strAktArtDsn));
         rs.set("Subject", cut_text(strBetreff, subject_units));
         rs.set("Notiz", strNotiz);
-        rs.set("Erledigt", flag_value(blnErledigt));
-        rs.set("Datum", date_or_null(dateDatum));
-        rs.set("Datum_Bis", date_or_null(dateDatumBis));
-        rs.set("Vorlage", date_or_null(dateDatumVorlage));
-        rs.set("Alarm", date_or_null(dateDatumAlarm));
-        rs.set("Loeschdatum", date_or_null(dateLoeschdatum));
-        rs.set("Stichwort1", cut_text(strStichwort1, keyword_units));
-        rs.set("Stichwort2", cut_text(strStichwort2, keyword_units));
-        rs.set("Emsk_Dsn", util.SqlStrNull(strEmskDsn));
-        rs.set("AD_Dsn", util.SqlStrNull(strAdDsn1));
-        rs.set("AD_B_Dsn", util.SqlStrNull(strAdDsn2));
-        rs.set("OBJ_Dsn", util.SqlStrNull(strObjDsn));
-        rs.set("ANF_Dsn", util.SqlStrNull(strAnfDsn));
-        rs.set("Projekte_Dsn", util.SqlStrNull(strProjekteDsn));
-        rs.set("Akten_Dsn", util.SqlStrNull(strAktenDsn));
-        rs.set("Verträge_Dsn", util.SqlStrNull(strVertraegeDsn));
+        write_facts(session(), rs,
+                    {.done = blnErledigt,
+                     .from = dateDatum,
+                     .until = dateDatumBis,
+                     .follow_up = dateDatumVorlage,
+                     .alarm = dateDatumAlarm,
+                     .deletion = dateLoeschdatum,
+                     .keyword_1 = strStichwort1,
+                     .keyword_2 = strStichwort2,
+                     .mask = strEmskDsn,
+                     .address_1 = strAdDsn1,
+                     .address_2 = strAdDsn2,
+                     .object = strObjDsn,
+                     .request = strAnfDsn,
+                     .project = strProjekteDsn,
+                     .case_file = strAktenDsn,
+                     .contract = strVertraegeDsn});
         rs.set("Details_Dsn", util.SqlStrNull(strDetailsDsn));
         rs.set("Akt_Dsn", util.SqlStrNull(strRootAktDsn));
 

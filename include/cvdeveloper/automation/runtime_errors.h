@@ -14,6 +14,7 @@ enum class RuntimeError : std::int32_t {
     TypeMismatch = 13,
     BadFileName = 52,
     FileNotFound = 53,
+    BadFileMode = 54,
     FileExists = 58,
     DiskFull = 61,
     PastEndOfFile = 62,
@@ -31,6 +32,7 @@ enum class RuntimeError : std::int32_t {
     ArgumentNotOptional = 449,
     WrongArgumentCount = 450,
     KeyInUse = 457,
+    ElementNotFound = 32811,
 };
 
 // The runtime's German text of the error.

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <span>
+
+#include "cvdeveloper/automation/interface_table.h"
+
+namespace cvdeveloper {
+
+// The interface tables of the library's public classes, for bindings and reference pages.
+std::span<const InterfaceTable* const> public_classes();
+
+}  // namespace cvdeveloper

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The scripting runtime's file operations: several files or folders at once through wildcards in
+// the last part of the path. The first failure ends an operation; what was done stays done.
+namespace cvdeveloper::files {
+
+// The files (or folders) that the path names, with the folder as it was written. Errors: 53 for no
+// file, 76 for no folder.
+std::vector<std::string> files_named(std::string_view path);
+std::vector<std::string> folders_named(std::string_view path);
+
+// A source with wildcards and a target that ends in a separator ask for a folder that exists.
+void copy_files(std::string_view source, std::string_view target, bool overwrite);
+void copy_folders(std::string_view source, std::string_view target, bool overwrite);
+void move_files(std::string_view source, std::string_view target);
+void move_folders(std::string_view source, std::string_view target);
+void remove_files(std::string_view path);
+void remove_folders(std::string_view path);
+
+// Of all files in the folder and below, through no link.
+double total_size(std::string_view folder);
+
+}  // namespace cvdeveloper::files

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cvdeveloper/automation/date.h"
+
+// The disk, one file or folder at a time. "\" and "/" both separate folders. Failures are the
+// runtime's file errors and name the path: 52 no possible name, 53 no such file, 58 exists already,
+// 61 disk full, 70 not permitted, 76 no such folder, 75 anything else.
+namespace cvdeveloper::files {
+
+enum class Kind : std::uint8_t { Nothing, File, Folder };
+
+// What the path leads to, through links. Nothing for a path that cannot be one.
+Kind kind_of(std::string_view path);
+bool file_exists(std::string_view path);
+bool folder_exists(std::string_view path);
+
+struct Entry {
+    std::string name;
+    Kind kind = Kind::Nothing;
+};
+// In the file system's order, without "." and "..".
+std::vector<Entry> entries(std::string_view folder);
+
+struct Properties {
+    std::uint64_t size = 0;
+    Date created;  // or the last change, where the file system keeps no date of creation
+    Date modified;
+};
+Properties properties(std::string_view path);
+
+void create_folder(std::string_view path);
+// Follows links; the copy keeps rights and date. A copy that breaks off leaves no new file behind.
+void copy_file(std::string_view from, std::string_view to, bool overwrite);
+// The link itself.
+void copy_link(std::string_view from, std::string_view to);
+bool is_link(std::string_view path);
+// Also to another file system. Error 58 where the target exists.
+void move(std::string_view from, std::string_view to);
+void remove_file(std::string_view path);
+// With all that is in it; links in it go, what they lead to stays.
+void remove_folder(std::string_view path);
+// Whether the inner path is the outer folder or lies in it.
+bool is_inside(std::string_view inner, std::string_view outer);
+
+std::string read_text(std::string_view path);
+// Adds the line and CR LF in one piece, so that lines of several processes do not mix; makes the
+// file where it is missing. False where that failed.
+bool append_line(std::string_view path, std::string_view line);
+
+// TMPDIR where it names a folder, else a folder of the user's own that nobody else may enter.
+std::string temp_folder();
+
+// A file open for writing. What is written is in the file at once.
+class OutputFile {
+  public:
+    enum class Mode : std::uint8_t { CreateNew, Overwrite, Append };
+
+    OutputFile(std::string_view path, Mode mode);
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+    ~OutputFile();
+
+    void write(std::string_view text);
+
+  private:
+    std::string path_;
+    int descriptor_;
+};
+
+}  // namespace cvdeveloper::files

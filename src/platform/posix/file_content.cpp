@@ -1,0 +1,100 @@
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+
+#include "cvdeveloper/automation/error.h"
+#include "platform/files.h"
+#include "platform/posix/file_errors.h"
+
+namespace cvdeveloper::files {
+namespace {
+
+constexpr unsigned rights_before_umask = 0666;
+
+int flags_of(OutputFile::Mode mode) {
+    switch (mode) {
+        case OutputFile::Mode::CreateNew:
+            return O_CREAT | O_EXCL;
+        case OutputFile::Mode::Overwrite:
+            return O_CREAT | O_TRUNC;
+        case OutputFile::Mode::Append:
+            return O_CREAT | O_APPEND;
+    }
+    return 0;
+}
+
+// An open file that is closed with its owner.
+class Descriptor {
+  public:
+    Descriptor(std::string_view path, int flags)
+        : number_(open(native(path).c_str(), flags | O_CLOEXEC, rights_before_umask)) {
+        if (number_ < 0) {
+            raise_file_error(errno, path);
+        }
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() { close(number_); }
+
+    [[nodiscard]] int number() const noexcept { return number_; }
+
+  private:
+    int number_;
+};
+
+}  // namespace
+
+std::string read_text(std::string_view path) {
+    const Descriptor file(path, O_RDONLY);
+    std::string text;
+    std::array<char, 65'536> buffer{};
+    for (;;) {
+        const ssize_t count = read(file.number(), buffer.data(), buffer.size());
+        if (count > 0) {
+            text.append(buffer.data(), static_cast<std::size_t>(count));
+        } else if (count == 0) {
+            return text;
+        } else if (errno != EINTR) {
+            raise_file_error(errno, path);
+        }
+    }
+}
+
+bool append_line(std::string_view path, std::string_view line) {
+    try {
+        std::string text(line);
+        text += "\r\n";
+        OutputFile(path, OutputFile::Mode::Append).write(text);
+        return true;
+    } catch (const AutomationError&) {
+        return false;
+    }
+}
+
+OutputFile::OutputFile(std::string_view path, Mode mode)
+    : path_(path),
+      descriptor_(
+          open(native(path).c_str(), O_WRONLY | O_CLOEXEC | flags_of(mode), rights_before_umask)) {
+    if (descriptor_ < 0) {
+        raise_file_error(errno, path);
+    }
+}
+
+OutputFile::~OutputFile() {
+    close(descriptor_);
+}
+
+void OutputFile::write(std::string_view text) {
+    while (!text.empty()) {
+        const ssize_t count = ::write(descriptor_, text.data(), text.size());
+        if (count >= 0) {
+            text.remove_prefix(static_cast<std::size_t>(count));
+        } else if (errno != EINTR) {
+            raise_file_error(errno, path_);
+        }
+    }
+}
+
+}  // namespace cvdeveloper::files
