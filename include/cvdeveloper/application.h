@@ -2,6 +2,11 @@
 
 #include "cvdeveloper/base.h"
 #include "cvdeveloper/data/diagnostic_log.h"
+#include "cvdeveloper/entities/activities.h"
+#include "cvdeveloper/entities/activity_types.h"
+#include "cvdeveloper/entities/attachments.h"
+#include "cvdeveloper/entities/emails.h"
+#include "cvdeveloper/entities/master_data.h"
 #include "cvdeveloper/session/session_frame.h"
 #include "cvdeveloper/tools/file_system.h"
 #include "cvdeveloper/tools/tools.h"
@@ -15,7 +20,14 @@ namespace cvdeveloper {
 //     app->AKT_Create("", "Anruf");
 //
 // One caller at a time; a second thread waits.
-class Application final : public SessionObject, public SessionFrame, public DiagnosticLog {
+class Application final : public SessionObject,
+                          public SessionFrame,
+                          public DiagnosticLog,
+                          public Activities,
+                          public ActivityTypes,
+                          public Emails,
+                          public Attachments,
+                          public MasterData {
   public:
     static constexpr std::string_view automation_name = "Application";
 

@@ -40,7 +40,7 @@ std::string type_text(const TypeName& type) {
         case ValueType::Variant:
             return "VARIANT";
         case ValueType::Object:
-            return type.name.empty() ? "IDispatch*" : "_" + std::string(type.name) + "*";
+            return type.name.empty() ? "IDispatch*" : std::string("_").append(type.name).append("*");
         case ValueType::RecordSet:
             return "IDispatch*";
         case ValueType::Enumeration:

@@ -36,7 +36,14 @@ constexpr Operation rows[] = {
 Application::Application() : Application(make_object<Session>()) {}
 
 Application::Application(Ref<Session> shared)
-    : SessionObject(shared), SessionFrame(*shared), DiagnosticLog(*shared) {}
+    : SessionObject(shared),
+      SessionFrame(*shared),
+      DiagnosticLog(*shared),
+      Activities(*shared),
+      ActivityTypes(*shared),
+      Emails(*shared),
+      Attachments(*shared),
+      MasterData(*shared) {}
 
 Ref<clsBase> Application::oBase() {
     if (!base_) {
@@ -73,6 +80,12 @@ const InterfaceTable& Application::table() const noexcept {
             {"session", "Attaching to a host, and what the session tells about itself.",
              SessionFrame::operations()},
             {"log", "The diagnostic log.", DiagnosticLog::operations()},
+            {"activities", "Making activities and giving them the defaults of their type.",
+             Activities::operations()},
+            {"activity-types", "Making activity types.", ActivityTypes::operations()},
+            {"emails", "Outgoing e-mails, kept as activities.", Emails::operations()},
+            {"attachments", "Files attached to records.", Attachments::operations()},
+            {"master-data", "The settings of the host's installation.", MasterData::operations()},
             {"workers", "The worker objects of a session.", rows},
         });
     return all;

@@ -22,7 +22,7 @@ bool has_time_of_day(Date date) {
 
 }  // namespace
 
-std::string Calendar::IsFeiertag(Date datDate) {
+std::string Calendar::IsFeiertag(Date datDate) const {
     try {
         ask_for_holiday(datDate);
     } catch (const AutomationError&) {
@@ -31,7 +31,8 @@ std::string Calendar::IsFeiertag(Date datDate) {
     return {};
 }
 
-bool Calendar::IsArbeitstag(Date datDate, bool blnFeiertag, bool blnSaturday, bool blnSunday) {
+bool Calendar::IsArbeitstag(Date datDate, bool blnFeiertag, bool blnSaturday,
+                            bool blnSunday) const {
     switch (weekday(datDate)) {
         case sunday:
             return !blnSunday;
@@ -43,7 +44,7 @@ bool Calendar::IsArbeitstag(Date datDate, bool blnFeiertag, bool blnSaturday, bo
 }
 
 Variant Calendar::MoveDate(const Variant& varDate, Date datStartDate, Date datRefDate,
-                           bool blnWochenende, bool blnFeiertag) {
+                           bool blnWochenende, bool blnFeiertag) const {
     const auto* date = varDate.get_if<Date>();
     if (date == nullptr) {
         return varDate;
@@ -67,15 +68,15 @@ Variant Calendar::MoveDate(const Variant& varDate, Date datStartDate, Date datRe
 }
 
 // Every step is kept, as the component may count on being asked; nothing comes of the answer.
-void Calendar::ask_for_holiday(Date date) {
+void Calendar::ask_for_holiday(Date date) const {
     const std::int32_t year = calendar_date(date).year;
-    auto found = years_.find(year);
-    if (found == years_.end()) {
+    auto found = session().holidays.find(year);
+    if (found == session().holidays.end()) {
         host::Bound<host::LegalHolidays> holidays(create_object("clqexstdc10.cLegalHolidays"));
         if (!holidays) {
             return;
         }
-        found = years_.emplace(year, std::move(holidays)).first;
+        found = session().holidays.emplace(year, std::move(holidays)).first;
         found->second->Eintragen(year);
     }
     host::LegalHolidays& holidays = *found->second;

@@ -94,7 +94,7 @@ constexpr Operation rows[] = {
      .help = {.what = "Gives the three parts of an entry. Missing parts are empty; what follows a "
                       "third tab is dropped.",
               .errors = no_errors,
-              .example = "phones.GetItem(1, phone1, phone2, comment)"}},
+              .example = "phones.GetItem(1, phone1 := Ref(), phone2 := Ref(), comment := Ref())"}},
     {.id = 8,
      .name = "SetItem",
      .kind = OperationKind::Method,

@@ -95,7 +95,7 @@ constexpr Operation rows[] = {
      .help = {.what = "Gives the three parts of an item. Missing parts are empty; what follows a "
                       "third tab is dropped.",
               .errors = index_error,
-              .example = "salutations.GetItem(1, short, long, letter)"}},
+              .example = "salutations.GetItem(1, short := Ref(), long := Ref(), letter := Ref())"}},
     {.id = 6,
      .name = "ReplaceSalutationLetterTag",
      .kind = OperationKind::Method,

@@ -1,4 +1,5 @@
 #include "cvdeveloper/automation/binding.h"
+#include "cvdeveloper/tools/calendar.h"
 #include "cvdeveloper/tools/tools.h"
 
 namespace cvdeveloper {
@@ -87,15 +88,16 @@ std::span<const Operation> clsTools::calendar_rows() noexcept {
 
 Variant clsTools::MoveDate(const Variant& varDate, Date datStartDate, Date datRefDate,
                            bool blnWochenende, bool blnFeiertag) {
-    return calendar_.MoveDate(varDate, datStartDate, datRefDate, blnWochenende, blnFeiertag);
+    return Calendar(session()).MoveDate(varDate, datStartDate, datRefDate, blnWochenende,
+                                        blnFeiertag);
 }
 
 bool clsTools::IsArbeitstag(Date datDate, bool blnFeiertag, bool blnSaturday, bool blnSunday) {
-    return calendar_.IsArbeitstag(datDate, blnFeiertag, blnSaturday, blnSunday);
+    return Calendar(session()).IsArbeitstag(datDate, blnFeiertag, blnSaturday, blnSunday);
 }
 
 std::string clsTools::IsFeiertag(Date datDate) {
-    return calendar_.IsFeiertag(datDate);
+    return Calendar(session()).IsFeiertag(datDate);
 }
 
 }  // namespace cvdeveloper

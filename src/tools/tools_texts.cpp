@@ -45,7 +45,7 @@ constexpr Operation rows[] = {
                       "element leaves an empty text.",
               .result = "The element; the whole list where no delimiter is left.",
               .errors = "13 for a list that is no text, 94 for Null.",
-              .example = "first = tools.StrList_DeleteFirst(buffer, \",\")"}},
+              .example = "first = tools.StrList_DeleteFirst(cvdeveloper.Ref(\"a|b\"))"}},
     {.id = 13,
      .name = "vbVal",
      .kind = OperationKind::Method,

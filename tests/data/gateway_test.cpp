@@ -108,8 +108,8 @@ TEST_F(GatewayTest, EverythingIsRefusedWithoutASession) {
     RecordSet rs;
     expect_error(601, "", not_initialised, [&] { base->CV_GetRecordset("SELECT 1"); });
     expect_error(601, "", not_initialised, [&] { base->CV_UpdateRecordset(rs); });
-    expect_error(601, "", not_initialised, [&] { base->CV_CurrentUserRS(); });
-    expect_error(601, "", not_initialised, [&] { base->CV_STDRS(); });
+    expect_error(601, "", not_initialised, [&] { return base->CV_CurrentUserRS(); });
+    expect_error(601, "", not_initialised, [&] { return base->CV_STDRS(); });
     base->SetDBPassword("x");
     base->ResetDBPassword();
 }

@@ -67,7 +67,7 @@ TEST_F(UserProfileTest, OwnFeatureIsFoundByTheLogOnName) {
 
 TEST_F(UserProfileTest, MissingFieldIsTheCallersError) {
     host.set_user({{"Login_Name", "chef"}});
-    expect_error_number(3265, [&] { base->BEN_EMailAktArt(); });
+    expect_error_number(3265, [&] { return base->BEN_EMailAktArt(); });
 }
 
 }  // namespace

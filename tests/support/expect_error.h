@@ -12,7 +12,7 @@ namespace cvdeveloper {
 template <class Function>
 void expect_error_number(std::int32_t number, Function function) {
     try {
-        function();
+        static_cast<void>(function());
     } catch (const AutomationError& error) {
         EXPECT_EQ(error.number(), number) << error.what();
         return;
@@ -24,7 +24,7 @@ template <class Function>
 void expect_error(std::int32_t number, std::string_view source, std::string_view description,
                   Function function) {
     try {
-        function();
+        static_cast<void>(function());
     } catch (const AutomationError& error) {
         EXPECT_EQ(error.number(), number);
         EXPECT_EQ(error.source(), source);

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "cvdeveloper/application.h"
+#include "cvdeveloper/automation/error.h"
 #include "support/scripted_record_set.h"
 
 namespace cvdeveloper {

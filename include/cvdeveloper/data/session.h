@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <mutex>
 #include <optional>
 #include <string>
@@ -54,6 +55,9 @@ class Session final : public RefCounted {
     std::string letter_salutation;
     std::string picture_word_long;
     std::string picture_word_short;
+
+    // The legal holidays asked for so far, by year.
+    std::map<std::int32_t, host::Bound<host::LegalHolidays>> holidays;
 
     std::recursive_mutex guard;
 

@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "cvdeveloper/data/session.h"
-#include "cvdeveloper/tools/calendar.h"
 #include "cvdeveloper/tools/directory_search.h"
 
 namespace cvdeveloper {
@@ -62,7 +61,6 @@ class clsTools final : public SessionObject {
     static std::span<const Operation> placeholder_rows() noexcept;
     static std::span<const Operation> text_rows() noexcept;
 
-    Calendar calendar_;
     DirectorySearch search_;
 };
 

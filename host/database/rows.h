@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "host/database/value.h"
+
+namespace cvdeveloper::standalone {
+
+enum class CellKind : std::uint8_t { Null, Integer, Double, Text, Bytes };
+
+// One field of one row, as the database keeps it. Texts and bytes lie in the rows' own memory.
+struct Cell {
+    union {
+        std::int64_t integer = 0;
+        double number;
+        const char* data;
+    };
+    std::uint32_t size = 0;
+    CellKind kind = CellKind::Null;
+    bool changed = false;  // set since the row was read or saved
+
+    [[nodiscard]] bool is_null() const noexcept { return kind == CellKind::Null; }
+    [[nodiscard]] std::string_view text() const noexcept { return {data, size}; }
+    [[nodiscard]] Value value() const noexcept;
+};
+
+bool same_content(const Cell& left, const Cell& right) noexcept;
+
+// The rows of a result, packed: the fields of a row lie side by side, texts follow in the same
+// blocks. Nothing moves once it is written.
+class Rows {
+  public:
+    explicit Rows(std::size_t columns) noexcept : columns_(columns) {}
+
+    [[nodiscard]] std::size_t size() const noexcept { return rows_.size(); }
+    [[nodiscard]] std::size_t columns() const noexcept { return columns_; }
+    [[nodiscard]] std::span<Cell> operator[](std::size_t row) const noexcept {
+        return {rows_[row], columns_};
+    }
+
+    // A new last row of nulls.
+    std::span<Cell> append();
+    // A copy of a row's cells that is no row itself.
+    std::span<Cell> keep_copy(std::span<const Cell> cells);
+
+    void set_text(Cell& cell, std::string_view text);
+    void set_bytes(Cell& cell, std::span<const std::byte> bytes);
+    static void set_null(Cell& cell) noexcept;
+    static void set_integer(Cell& cell, std::int64_t value) noexcept;
+    static void set_double(Cell& cell, double value) noexcept;
+
+  private:
+    std::byte* allocate(std::size_t size);
+    Cell* allocate_cells();
+    const char* keep(const void* data, std::size_t size);
+
+    std::size_t columns_;
+    std::vector<Cell*> rows_;
+    std::vector<std::unique_ptr<std::byte[]>> blocks_;
+    std::byte* free_ = nullptr;
+    std::size_t left_ = 0;
+    std::size_t next_block_ = 0;
+};
+
+}  // namespace cvdeveloper::standalone

@@ -1,0 +1,95 @@
+#pragma once
+
+#include <sqlite3.h>
+
+#include <atomic>
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "cvdeveloper/automation/class_registry.h"
+#include "host/database/database.h"
+#include "host/database/sqlite/access.h"
+
+namespace cvdeveloper::standalone::sqlite {
+
+struct OpenOptions {
+    bool create = false;
+    // How long to wait for somebody else's transaction.
+    std::chrono::milliseconds timeout = std::chrono::seconds(10);
+    // Every commit reaches the disk. Without it a power failure may cost the last transactions,
+    // never the consistency of the file.
+    bool full_sync = true;
+};
+
+// A database file. Opening one changes nothing in it.
+class Connection final : public Database {
+  public:
+    // Errors: Folder where the file cannot be opened, Database where it is damaged.
+    Connection(const std::string& path, const OpenOptions& options);
+    ~Connection() override;
+
+    std::unique_ptr<Statement> prepare(std::string_view text, Author author) override;
+    void run_script(const std::string& script) override;
+    void use_write_ahead_log() override;
+    void begin() override;
+    void commit() override;
+    void rollback() noexcept override;
+    void set_savepoint() override;
+    void release_savepoint() override;
+    void rollback_to_savepoint() noexcept override;
+    [[nodiscard]] bool in_transaction() const noexcept override;
+    [[nodiscard]] std::shared_ptr<const Catalog> catalog() const noexcept override {
+        return catalog_;
+    }
+    void interrupt() noexcept override;
+
+    // Reads the tables anew, after the schema was made.
+    void read_catalog();
+
+  private:
+    friend class PreparedStatement;
+
+    struct Close {
+        void operator()(sqlite3* connection) const noexcept { sqlite3_close_v2(connection); }
+    };
+
+    // For the duration of a statement: whose it is, and the interpreter lock, which is given up
+    // once the statement turns out to be long or has to wait.
+    class Running {
+      public:
+        Running(Connection& connection, Author author);
+        Running(const Running&) = delete;
+        Running& operator=(const Running&) = delete;
+        ~Running();
+
+      private:
+        Connection& connection_;
+        Author before_;
+    };
+    void give_up_interpreter_lock();
+
+    static int on_progress(void* self);
+    static int on_busy(void* self, int attempts);
+    [[nodiscard]] std::unique_ptr<Statement> prepare_own(std::string_view text);
+    [[noreturn]] void raise_failure(int code) const;
+
+    std::unique_ptr<sqlite3, Close> handle_;
+    OpenOptions options_;
+    Access access_;
+    std::shared_ptr<const Catalog> catalog_;
+    std::atomic<bool> interrupted_ = false;
+    std::optional<BlockingScope> long_run_;
+    std::chrono::steady_clock::time_point waiting_since_;
+
+    std::unique_ptr<Statement> begin_;
+    std::unique_ptr<Statement> commit_;
+    std::unique_ptr<Statement> rollback_;
+    std::unique_ptr<Statement> set_savepoint_;
+    std::unique_ptr<Statement> release_savepoint_;
+    std::unique_ptr<Statement> rollback_to_savepoint_;
+};
+
+}  // namespace cvdeveloper::standalone::sqlite

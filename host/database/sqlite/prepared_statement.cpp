@@ -1,0 +1,144 @@
+#include "host/database/sqlite/prepared_statement.h"
+
+#include <string>
+#include <type_traits>
+#include <variant>
+
+#include "host/errors.h"
+
+namespace cvdeveloper::standalone::sqlite {
+
+namespace {
+
+std::string text_or_empty(const char* text) {
+    return text == nullptr ? std::string() : std::string(text);
+}
+
+// Bound texts are borrowed: they live until the statement has run.
+int bind_value(sqlite3_stmt* statement, int position, const Value& value) {
+    return std::visit(
+        [&](const auto& held) {
+            using T = std::remove_cvref_t<decltype(held)>;
+            if constexpr (std::is_same_v<T, std::int64_t>) {
+                return sqlite3_bind_int64(statement, position, held);
+            } else if constexpr (std::is_same_v<T, double>) {
+                return sqlite3_bind_double(statement, position, held);
+            } else if constexpr (std::is_same_v<T, std::string_view>) {
+                // A null pointer would be a null value, not an empty text.
+                return sqlite3_bind_text64(statement, position,
+                                           held.data() == nullptr ? "" : held.data(), held.size(),
+                                           SQLITE_STATIC, SQLITE_UTF8);
+            } else if constexpr (std::is_same_v<T, std::span<const std::byte>>) {
+                return held.empty() ? sqlite3_bind_zeroblob(statement, position, 0)
+                                    : sqlite3_bind_blob64(statement, position, held.data(),
+                                                          held.size(), SQLITE_STATIC);
+            } else {
+                return sqlite3_bind_null(statement, position);
+            }
+        },
+        value);
+}
+
+// Leaves the statement ready for its next run, whatever happens.
+class ResetAtEnd {
+  public:
+    explicit ResetAtEnd(sqlite3_stmt* statement) noexcept : statement_(statement) {}
+    ResetAtEnd(const ResetAtEnd&) = delete;
+    ResetAtEnd& operator=(const ResetAtEnd&) = delete;
+    ~ResetAtEnd() { sqlite3_reset(statement_); }
+
+  private:
+    sqlite3_stmt* statement_;
+};
+
+}  // namespace
+
+PreparedStatement::PreparedStatement(Connection& connection, Handle handle, Author author)
+    : connection_(connection), handle_(std::move(handle)), author_(author) {
+    const int count = sqlite3_column_count(handle_.get());
+    columns_.reserve(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) {
+        columns_.push_back({text_or_empty(sqlite3_column_name(handle_.get(), i)),
+                            text_or_empty(sqlite3_column_table_name(handle_.get(), i)),
+                            text_or_empty(sqlite3_column_origin_name(handle_.get(), i))});
+    }
+}
+
+std::size_t PreparedStatement::parameter_count() const noexcept {
+    return static_cast<std::size_t>(sqlite3_bind_parameter_count(handle_.get()));
+}
+
+void PreparedStatement::bind(std::span<const Value> values) {
+    int position = 0;
+    for (const Value& value : values) {
+        if (const int code = bind_value(handle_.get(), ++position, value); code != SQLITE_OK) {
+            connection_.raise_failure(code);
+        }
+    }
+}
+
+bool PreparedStatement::step() {
+    const int code = sqlite3_step(handle_.get());
+    if (code != SQLITE_ROW && code != SQLITE_DONE) {
+        connection_.raise_failure(code);
+    }
+    return code == SQLITE_ROW;
+}
+
+void PreparedStatement::query(std::span<const Value> values, Rows& rows) {
+    const Connection::Running running(connection_, author_);
+    const ResetAtEnd reset(handle_.get());
+    bind(values);
+    while (step()) {
+        read_row(rows);
+    }
+}
+
+void PreparedStatement::read_row(Rows& rows) const {
+    sqlite3_stmt* const statement = handle_.get();
+    int column = 0;
+    for (Cell& cell : rows.append()) {
+        switch (sqlite3_column_type(statement, column)) {
+            case SQLITE_INTEGER:
+                Rows::set_integer(cell, sqlite3_column_int64(statement, column));
+                break;
+            case SQLITE_FLOAT:
+                Rows::set_double(cell, sqlite3_column_double(statement, column));
+                break;
+            case SQLITE_TEXT: {
+                const auto* text =
+                    reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+                rows.set_text(
+                    cell,
+                    {text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column))});
+                break;
+            }
+            case SQLITE_BLOB: {
+                const auto* bytes =
+                    static_cast<const std::byte*>(sqlite3_column_blob(statement, column));
+                rows.set_bytes(
+                    cell,
+                    {bytes, static_cast<std::size_t>(sqlite3_column_bytes(statement, column))});
+                break;
+            }
+            default:
+                break;
+        }
+        ++column;
+    }
+}
+
+std::int64_t PreparedStatement::execute(std::span<const Value> values) {
+    const Connection::Running running(connection_, author_);
+    const ResetAtEnd reset(handle_.get());
+    // Outside a transaction a write ends with waiting for the disk.
+    if (connection_.options_.full_sync && !connection_.in_transaction()) {
+        connection_.give_up_interpreter_lock();
+    }
+    bind(values);
+    while (step()) {
+    }
+    return sqlite3_changes64(connection_.handle_.get());
+}
+
+}  // namespace cvdeveloper::standalone::sqlite

@@ -1,0 +1,65 @@
+#include "host/folder/load_rows.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "cvdeveloper/automation/error.h"
+#include "host/errors.h"
+#include "host/folder/csv.h"
+#include "host/folder/schema_folder.h"
+
+namespace cvdeveloper::standalone {
+
+namespace {
+
+std::string name_of(const std::filesystem::path& file) {
+    const std::u8string name = file.stem().u8string();
+    return {name.begin(), name.end()};
+}
+
+void load_file(Database& database, const std::filesystem::path& file) {
+    const std::string text = read_schema_file(file);
+    CsvReader reader(text);
+    std::vector<CsvReader::Cell> row;
+    reader.next(row);
+    std::string statement = "INSERT OR REPLACE INTO \"" + name_of(file) + "\" (";
+    std::string places;
+    for (const CsvReader::Cell& column : row) {
+        statement.append("\"").append(column.value_or("")).append("\",");
+        places += "?,";
+    }
+    statement.back() = ')';
+    places.pop_back();
+    const std::size_t columns = row.size();
+    const auto insert = database.prepare(statement + " VALUES (" + places + ")", Author::Host);
+    for (std::size_t number = 1; reader.next(row); ++number) {
+        if (row.size() != columns) {
+            raise(HostError::Folder, "Die Datei '" + file.string() + "' hat in Zeile " +
+                                         std::to_string(number) + " nicht " +
+                                         std::to_string(columns) + " Werte.");
+        }
+        // The columns' declared types turn the texts of numbers into numbers.
+        std::vector<Value> values;
+        for (const CsvReader::Cell& cell : row) {
+            values.push_back(cell ? Value(std::string_view(*cell)) : Value());
+        }
+        insert->execute(values);
+    }
+}
+
+}  // namespace
+
+void load_rows(Database& database, const std::filesystem::path& folder) {
+    std::vector<std::filesystem::path> files;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        if (entry.path().extension() == ".csv") {
+            files.push_back(entry.path());
+        }
+    }
+    std::ranges::sort(files);
+    for (const std::filesystem::path& file : files) {
+        load_file(database, file);
+    }
+}
+
+}  // namespace cvdeveloper::standalone

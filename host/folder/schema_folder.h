@@ -1,0 +1,14 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace cvdeveloper::standalone {
+
+// The folder of schema.sql, base and sample.
+std::filesystem::path schema_folder();
+
+// Errors: Folder where the file is missing.
+std::string read_schema_file(const std::filesystem::path& file);
+
+}  // namespace cvdeveloper::standalone

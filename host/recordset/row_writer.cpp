@@ -1,0 +1,218 @@
+#include "host/recordset/row_writer.h"
+
+#include "cvdeveloper/automation/conversions.h"
+#include "host/errors.h"
+#include "host/recordset/column_values.h"
+#include "platform/text.h"
+
+namespace cvdeveloper::standalone {
+
+namespace {
+
+void require_key(const Shape& shape) {
+    if (shape.base() == nullptr) {
+        raise(
+            HostError::NotUpdatable,
+            "Das Recordset enthält keine Spalte einer Tabelle und kann nicht geschrieben werden.");
+    }
+    if (shape.base()->key() == Table::npos) {
+        raise(HostError::NotUpdatable, "Die Tabelle " + shape.base()->name() +
+                                           " hat keine Spalte DSN und kann nicht über ein "
+                                           "Recordset geschrieben werden.");
+    }
+    if (shape.key() == Shape::npos) {
+        raise(HostError::NotUpdatable, "Das Recordset aus " + shape.base()->name() +
+                                           " enthält die Spalte DSN nicht und kann nicht "
+                                           "geschrieben werden.");
+    }
+}
+
+void append_name(std::string& text, std::string_view name) {
+    text += '"';
+    text += name;
+    text += '"';
+}
+
+// "... WHERE DSN=?" and, where the version was read, "AND STAMP=?".
+void append_identity(std::string& text, std::vector<Value>& values, const Shape& shape,
+                     std::span<const Cell> original) {
+    text += " WHERE \"DSN\"=?";
+    values.push_back(original[shape.key()].value());
+    if (shape.version() != Shape::npos) {
+        text += " AND \"STAMP\"=?";
+        values.push_back(original[shape.version()].value());
+    }
+}
+
+bool is_written(const Shape& shape, std::size_t column, const Cell& cell) {
+    return cell.changed && column != shape.version();
+}
+
+// A value as a conflict's message quotes it.
+std::string shown(const Cell& cell, ColumnType type) {
+    if (cell.is_null()) {
+        return "Null";
+    }
+    if (cell.kind == CellKind::Bytes) {
+        return std::to_string(cell.size) + " Bytes";
+    }
+    return in_quotes(first_units(to_text(to_variant(cell, type)), 60));
+}
+
+}  // namespace
+
+std::vector<std::int64_t> RowWriter::write(const ClientRecordSet& record_set) {
+    require_key(record_set.shape());
+    std::vector<std::int64_t> versions;
+    versions.reserve(record_set.changes().size());
+    for (const ClientRecordSet::Change& change : record_set.changes()) {
+        std::int64_t version = 0;
+        switch (record_set.state(change.row)) {
+            case RowState::Added:
+                version = insert(record_set, change.row);
+                break;
+            case RowState::Changed:
+                version = update(record_set, change);
+                break;
+            case RowState::Deleted:
+                remove(record_set, change);
+                break;
+            case RowState::Unchanged:
+            case RowState::Gone:
+                break;
+        }
+        versions.push_back(version);
+    }
+    return versions;
+}
+
+std::int64_t RowWriter::execute() {
+    auto& entry = statements_.get(text_, [this] {
+        return StatementCache<Nothing>::Entry{database_.prepare(text_, Author::Host), {}};
+    });
+    return entry.statement->execute(values_);
+}
+
+std::int64_t RowWriter::insert(const ClientRecordSet& record_set, std::size_t row) {
+    const Shape& shape = record_set.shape();
+    const auto cells = record_set.cells(row);
+    text_ = "INSERT INTO ";
+    append_name(text_, shape.base()->name());
+    values_.clear();
+    char separator = '(';
+    text_ += ' ';
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        const Column& column = shape.columns()[i];
+        if (column.writable && column.required && cells[i].is_null()) {
+            raise(HostError::ValueRefused, shape.base()->name() + "." + column.name +
+                                               " ist ein Pflichtfeld und nimmt kein Null auf.");
+        }
+        if (is_written(shape, i, cells[i])) {
+            text_ += separator;
+            append_name(text_, column.name_in_table());
+            values_.push_back(cells[i].value());
+            separator = ',';
+        }
+    }
+    text_ += ") VALUES (?";
+    for (std::size_t i = 1; i < values_.size(); ++i) {
+        text_ += ",?";
+    }
+    text_ += ')';
+    execute();
+    return shape.version() == Shape::npos ? 0 : cells[shape.version()].integer;
+}
+
+std::int64_t RowWriter::update(const ClientRecordSet& record_set,
+                               const ClientRecordSet::Change& change) {
+    const Shape& shape = record_set.shape();
+    const auto cells = record_set.cells(change.row);
+    const bool has_version = shape.version() != Shape::npos;
+    const std::int64_t version = has_version ? change.original[shape.version()].integer + 1 : 0;
+    text_ = "UPDATE ";
+    append_name(text_, shape.base()->name());
+    text_ += " SET ";
+    values_.clear();
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        if (is_written(shape, i, cells[i])) {
+            append_name(text_, shape.columns()[i].name_in_table());
+            text_ += "=?,";
+            values_.push_back(cells[i].value());
+        }
+    }
+    if (values_.empty()) {
+        return version - (has_version ? 1 : 0);
+    }
+    if (has_version) {
+        text_ += "\"STAMP\"=?";
+        values_.emplace_back(version);
+    } else if (shape.base()->version() != Table::npos) {
+        // Others who have read the row must notice this write.
+        text_ += "\"STAMP\"=\"STAMP\"+1";
+    } else {
+        text_.pop_back();
+    }
+    append_identity(text_, values_, shape, change.original);
+    if (execute() == 0) {
+        raise_conflict(record_set, change);
+    }
+    return version;
+}
+
+void RowWriter::remove(const ClientRecordSet& record_set, const ClientRecordSet::Change& change) {
+    const Shape& shape = record_set.shape();
+    text_ = "DELETE FROM ";
+    append_name(text_, shape.base()->name());
+    values_.clear();
+    append_identity(text_, values_, shape, change.original);
+    if (execute() == 0) {
+        raise_conflict(record_set, change);
+    }
+}
+
+void RowWriter::raise_conflict(const ClientRecordSet& record_set,
+                               const ClientRecordSet::Change& change) {
+    const Shape& shape = record_set.shape();
+    std::vector<std::size_t> positions;
+    text_ = "SELECT ";
+    for (std::size_t i = 0; i < shape.columns().size(); ++i) {
+        if (shape.columns()[i].writable && i != shape.version()) {
+            append_name(text_, shape.columns()[i].name_in_table());
+            text_ += ',';
+            positions.push_back(i);
+        }
+    }
+    text_.back() = ' ';
+    text_ += "FROM ";
+    append_name(text_, shape.base()->name());
+    text_ += " WHERE \"DSN\"=?";
+    Rows present(positions.size());
+    const Value key = change.original[shape.key()].value();
+    database_.prepare(text_, Author::Host)->query({&key, 1}, present);
+
+    const std::string row = "Der Datensatz " + in_quotes(change.original[shape.key()].text()) +
+                            " in " + shape.base()->name();
+    if (present.size() == 0) {
+        raise(HostError::RowChanged, row + " wurde inzwischen von anderer Seite gelöscht.");
+    }
+    std::string names;
+    std::string values;
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+        const std::size_t position = positions[i];
+        const Cell& now = present[0][i];
+        if (same_content(now, change.original[position])) {
+            continue;
+        }
+        const Column& column = shape.columns()[position];
+        values = names.empty() ? ": dort steht jetzt " + shown(now, column.type.type) +
+                                     ", geschrieben werden sollte " +
+                                     shown(record_set.cells(change.row)[position], column.type.type)
+                               : std::string();
+        names += (names.empty() ? "" : ", ") + column.name;
+    }
+    raise(HostError::RowChanged, row + " wurde inzwischen von anderer Seite geändert" +
+                                     (names.empty() ? std::string() : " (" + names + ")") + values +
+                                     ".");
+}
+
+}  // namespace cvdeveloper::standalone

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "host/database/database.h"
+#include "host/database/statement_cache.h"
+#include "host/recordset/client_record_set.h"
+
+namespace cvdeveloper::standalone {
+
+// Writes a record set's changes into its table, row by row in the order in which they were made.
+// A row is known by its DSN; where its STAMP was read too, a row that somebody else has changed in
+// between is an error. A record set without STAMP writes without that check.
+class RowWriter {
+  public:
+    explicit RowWriter(Database& database) : database_(database), statements_(200) {}
+
+    // Errors: NotUpdatable, RowChanged, ValueRefused, and the database's own. The caller brackets
+    // it and tells the record set when everything is in the database.
+    std::vector<std::int64_t> write(const ClientRecordSet& record_set);
+
+  private:
+    struct Nothing {};
+
+    std::int64_t insert(const ClientRecordSet& record_set, std::size_t row);
+    std::int64_t update(const ClientRecordSet& record_set, const ClientRecordSet::Change& change);
+    void remove(const ClientRecordSet& record_set, const ClientRecordSet::Change& change);
+    [[noreturn]] void raise_conflict(const ClientRecordSet& record_set,
+                                     const ClientRecordSet::Change& change);
+    std::int64_t execute();
+
+    Database& database_;
+    StatementCache<Nothing> statements_;
+    // Used again for each row.
+    std::string text_;
+    std::vector<Value> values_;
+};
+
+}  // namespace cvdeveloper::standalone

@@ -1,0 +1,190 @@
+#include "host/session/host_session.h"
+
+#include <array>
+
+#include "cvdeveloper/automation/error.h"
+#include "cvdeveloper/automation/library_object.h"
+#include "cvdeveloper/automation/runtime_errors.h"
+#include "host/errors.h"
+#include "host/session/users.h"
+
+namespace cvdeveloper::standalone {
+
+namespace {
+
+// Statements of the same shape share one entry; scripts have some dozens of shapes.
+constexpr std::size_t cached_statements = 500;
+
+sql::Dictionary dictionary_of(const Catalog& catalog) {
+    sql::Dictionary dictionary;
+    for (const auto& table : catalog.tables()) {
+        dictionary.add_table(table->name());
+        for (const TableColumn& column : table->columns()) {
+            dictionary.add_column(column.name, column.type.type == ColumnType::Date);
+        }
+    }
+    return dictionary;
+}
+
+// Whether a column of a result is one of Std's counters.
+bool is_counter(const Column& column) {
+    constexpr std::string_view prefix = "Kennung_";
+    return column.table != nullptr && sql::equal_names(column.table->name(), "Std") &&
+           sql::equal_names(column.name_in_table().substr(0, prefix.size()), prefix);
+}
+
+}  // namespace
+
+Ref<HostSession> HostSession::log_on(std::string_view path, std::string_view user,
+                                     std::string_view password) {
+    HostFolder folder = HostFolder::open(path);
+    std::unique_ptr<Database> database = folder.open_database();
+    std::string user_key = Users(*database).log_on(user, password);
+    return make_object<HostSession>(std::move(folder), std::move(database), std::move(user_key));
+}
+
+HostSession::HostSession(HostFolder folder, std::unique_ptr<Database> database,
+                         std::string user_key)
+    : folder_(std::move(folder)),
+      database_(std::move(database)),
+      user_key_(std::move(user_key)),
+      owner_(std::make_shared<RecordSetOwner>()),
+      dictionary_(dictionary_of(*database_->catalog())),
+      reader_(dictionary_),
+      statements_(cached_statements),
+      transactions_(*database_),
+      writer_(*database_),
+      numbers_(*database_, folder_.settings().number_digits) {}
+
+RecordSet HostSession::get_record_set(std::string_view sql) {
+    const GuardLock lock(guard());
+    try {
+        const sql::ReadStatement& read = reader_.read(sql);
+        if (!read.broken.empty()) {
+            raise(HostError::StatementRefused,
+                  "Ein Anführungszeichen oder Kommentar ist nicht "
+                  "geschlossen: " +
+                      std::string(quoted_part(read.broken)));
+        }
+        return run(read.text, read.values, read.never_true, read.asks_for_number);
+    } catch (const AutomationError& error) {
+        throw error.with_note(" Anweisung: " + std::string(quoted_part(sql)));
+    }
+}
+
+RecordSet HostSession::run(std::string_view text, std::span<const Value> values, bool never_true,
+                           bool takes_numbers) {
+    auto& [statement, read] = statements_.get(text, [&] { return prepare(text, values.size()); });
+    Rows rows(read.shape->columns().size());
+    // "WHERE 1=2" has no rows; an expression such as count(*) would still give one.
+    if (!never_true || !read.shape->all_from_tables()) {
+        statement->query(values, rows);
+    }
+    if (!read.counters.empty()) {
+        fill_in_numbers(read, rows, takes_numbers);
+    }
+    const auto record_set = make_object<ClientRecordSet>(read.shape, std::move(rows));
+    return {record_set, *record_set};
+}
+
+StatementCache<HostSession::Read>::Entry HostSession::prepare(std::string_view text,
+                                                              std::size_t values) {
+    std::unique_ptr<Statement> statement = database_->prepare(text, Author::Caller);
+    if (statement->parameter_count() != values) {
+        raise(HostError::StatementRefused, "Platzhalter ohne Wert sind nicht erlaubt.");
+    }
+    Read read{.shape = std::make_shared<Shape>(statement->columns(), database_->catalog(), owner_),
+              .counters = {}};
+    for (std::size_t i = 0; i < read.shape->columns().size(); ++i) {
+        if (is_counter(read.shape->columns()[i])) {
+            read.counters.push_back(i);
+        }
+    }
+    return {std::move(statement), std::move(read)};
+}
+
+// Reading a counter by its name takes the next number; SELECT * shows the last one.
+void HostSession::fill_in_numbers(const Read& read, Rows& rows, bool take) {
+    const auto fill = [&] {
+        for (std::size_t row = 0; row < rows.size(); ++row) {
+            for (const std::size_t column : read.counters) {
+                const std::string& counter = read.shape->columns()[column].name_in_table();
+                rows.set_text(rows[row][column],
+                              take ? numbers_.take(counter) : numbers_.last(counter));
+            }
+        }
+    };
+    if (take && rows.size() > 0) {
+        transactions_.run(rows.size() * read.counters.size() == 1, fill);
+    } else {
+        fill();
+    }
+}
+
+void HostSession::update_record_set(const RecordSet& record_set) {
+    const GuardLock lock(guard());
+    if (!record_set) {
+        raise(RuntimeError::ObjectNotSet, "UpdateRecordset");
+    }
+    auto* const rows = dynamic_cast<ClientRecordSet*>(record_set.object().get());
+    if (rows == nullptr || rows->shape().owner() != owner_) {
+        raise(HostError::NotUpdatable,
+              "Das Recordset stammt nicht aus dieser Sitzung und kann nicht geschrieben werden.");
+    }
+    if (rows->changes().empty()) {
+        return;
+    }
+    std::vector<std::int64_t> versions;
+    transactions_.run(rows->changes().size() == 1, [&] { versions = writer_.write(*rows); });
+    rows->mark_saved(versions);
+}
+
+RecordSet HostSession::current_user() {
+    const GuardLock lock(guard());
+    const Value key = std::string_view(user_key_);
+    return run("SELECT * FROM Benutzer WHERE DSN=?", {&key, 1}, false, false);
+}
+
+RecordSet HostSession::master_data() {
+    const GuardLock lock(guard());
+    return run("SELECT * FROM Std", {}, false, false);
+}
+
+void HostSession::begin_transaction() {
+    const GuardLock lock(guard());
+    transactions_.begin();
+}
+
+void HostSession::commit_transaction() {
+    const GuardLock lock(guard());
+    transactions_.commit();
+}
+
+void HostSession::roll_back_transaction() {
+    const GuardLock lock(guard());
+    transactions_.rollback();
+}
+
+std::string HostSession::setting(std::string_view section, std::string_view key,
+                                 std::string_view default_value) {
+    const GuardLock lock(guard());
+    const std::array<Value, 2> values = {section, key};
+    Rows found(1);
+    database_->prepare("SELECT value FROM cv_setting WHERE section=? AND key=?", Author::Host)
+        ->query(values, found);
+    if (found.size() == 0 || found[0][0].is_null()) {
+        return std::string(default_value);
+    }
+    return std::string(found[0][0].text());
+}
+
+void HostSession::set_setting(std::string_view section, std::string_view key,
+                              std::string_view value) {
+    const GuardLock lock(guard());
+    const std::array<Value, 3> values = {section, key, value};
+    const auto statement = database_->prepare(
+        "INSERT OR REPLACE INTO cv_setting (section, key, value) VALUES (?, ?, ?)", Author::Host);
+    transactions_.run(true, [&] { statement->execute(values); });
+}
+
+}  // namespace cvdeveloper::standalone

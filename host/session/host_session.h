@@ -1,0 +1,82 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cvdeveloper/automation/ref.h"
+#include "cvdeveloper/host/session.h"
+#include "host/database/statement_cache.h"
+#include "host/folder/host_folder.h"
+#include "host/recordset/row_writer.h"
+#include "host/session/numbers.h"
+#include "host/session/transactions.h"
+#include "host/sql/statement_reader.h"
+
+namespace cvdeveloper::standalone {
+
+// A logged-on user's work on one host folder: one connection, on which what a unit of work or
+// transaction has written is seen by its own reads. Connector and running application both stand
+// on it. Calls take the guard; one thread at a time works.
+class HostSession final : public RefCounted {
+  public:
+    // Errors: Folder, LogonFailed, LockTimeout, Database.
+    static Ref<HostSession> log_on(std::string_view path, std::string_view user,
+                                   std::string_view password);
+
+    HostSession(HostFolder folder, std::unique_ptr<Database> database, std::string user_key);
+
+    [[nodiscard]] const HostFolder& folder() const noexcept { return folder_; }
+    [[nodiscard]] std::recursive_mutex* guard() const noexcept { return &owner_->guard; }
+
+    // Runs one read-only SELECT. Errors: StatementRefused and others, with the statement's
+    // beginning.
+    RecordSet get_record_set(std::string_view sql);
+    // Writes all changes of a record set of this session, or none.
+    void update_record_set(const RecordSet& record_set);
+    RecordSet current_user();
+    RecordSet master_data();
+
+    [[nodiscard]] host::UnitOfWork& unit_of_work() noexcept { return transactions_; }
+    void begin_transaction();
+    void commit_transaction();
+    void roll_back_transaction();
+    [[nodiscard]] bool has_transaction() const noexcept { return transactions_.is_open(); }
+
+    // Settings of scripts.
+    std::string setting(std::string_view section, std::string_view key,
+                        std::string_view default_value);
+    void set_setting(std::string_view section, std::string_view key, std::string_view value);
+
+    // Stops the statement that runs at the moment; from any thread.
+    void interrupt() noexcept { database_->interrupt(); }
+    [[nodiscard]] const CacheStatistics& statement_statistics() const noexcept {
+        return statements_.statistics();
+    }
+
+  private:
+    // What is kept beside a caller's prepared statement.
+    struct Read {
+        std::shared_ptr<const Shape> shape;
+        std::vector<std::size_t> counters;  // columns that show numbers of cv_counter
+    };
+
+    RecordSet run(std::string_view text, std::span<const Value> values, bool never_true,
+                  bool takes_numbers);
+    StatementCache<Read>::Entry prepare(std::string_view text, std::size_t values);
+    void fill_in_numbers(const Read& read, Rows& rows, bool take);
+
+    HostFolder folder_;
+    std::unique_ptr<Database> database_;
+    std::string user_key_;
+    std::shared_ptr<RecordSetOwner> owner_;
+    sql::Dictionary dictionary_;
+    sql::StatementReader reader_;
+    StatementCache<Read> statements_;
+    Transactions transactions_;
+    RowWriter writer_;
+    Numbers numbers_;
+};
+
+}  // namespace cvdeveloper::standalone

@@ -1,0 +1,47 @@
+#include "host/session/numbers.h"
+
+#include <algorithm>
+
+namespace cvdeveloper::standalone {
+
+namespace {
+
+// Searches for a human key pad it to this width, so it is kept that wide.
+constexpr std::size_t width = 10;
+
+}  // namespace
+
+std::string Numbers::take(std::string_view counter) {
+    return run(take_,
+               "INSERT INTO cv_counter (name, prefix, last_number) VALUES (?, '', 1) "
+               "ON CONFLICT (name) DO UPDATE SET last_number = last_number + 1 "
+               "RETURNING prefix, last_number",
+               counter);
+}
+
+std::string Numbers::last(std::string_view counter) {
+    return run(last_, "SELECT prefix, last_number FROM cv_counter WHERE name = ?", counter);
+}
+
+std::string Numbers::run(std::unique_ptr<Statement>& statement, std::string_view text,
+                         std::string_view counter) {
+    if (statement == nullptr) {
+        statement = database_.prepare(text, Author::Host);
+    }
+    Rows rows(2);
+    const Value value = counter;
+    statement->query({&value, 1}, rows);
+    if (rows.size() == 0) {
+        return {};
+    }
+    const std::string digits = std::to_string(rows[0][1].integer);
+    std::string key(rows[0][0].is_null() ? std::string_view() : rows[0][0].text());
+    key.append(static_cast<std::size_t>(digits_) -
+                   std::min(digits.size(), static_cast<std::size_t>(digits_)),
+               '0');
+    key += digits;
+    key.append(width - std::min(key.size(), width), ' ');
+    return key;
+}
+
+}  // namespace cvdeveloper::standalone

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "cvdeveloper/host/session.h"
+#include "host/database/database.h"
+
+namespace cvdeveloper::standalone {
+
+// When what is written gets committed. A unit of work begins a transaction with its first write
+// and commits it once at its outermost end, also after an error: what was written before stays.
+// In a caller's own transaction units do nothing.
+class Transactions final : public host::UnitOfWork {
+  public:
+    explicit Transactions(Database& database) noexcept : database_(database) {}
+
+    void enter() override;
+    void leave() override;
+
+    // Errors: Transaction for a second one, or an end without a beginning.
+    void begin();
+    void commit();
+    void rollback();
+    [[nodiscard]] bool is_open() const noexcept { return is_callers_; }
+
+    // Runs a write whole or not at all. A single statement needs no bracket of its own.
+    template <class Write>
+    void run(bool single_statement, const Write& write) {
+        prepare_for_write();
+        if (single_statement) {
+            write();
+        } else if (database_.in_transaction()) {
+            run_in_savepoint(write);
+        } else {
+            run_in_transaction(write);
+        }
+    }
+
+  private:
+    void prepare_for_write();
+
+    template <class Write>
+    void run_in_savepoint(const Write& write) {
+        database_.set_savepoint();
+        try {
+            write();
+        } catch (...) {
+            database_.rollback_to_savepoint();
+            throw;
+        }
+        database_.release_savepoint();
+    }
+
+    template <class Write>
+    void run_in_transaction(const Write& write) {
+        database_.begin();
+        try {
+            write();
+            database_.commit();
+        } catch (...) {
+            database_.rollback();
+            throw;
+        }
+    }
+
+    Database& database_;
+    int depth_ = 0;
+    bool is_callers_ = false;
+};
+
+}  // namespace cvdeveloper::standalone

@@ -1,0 +1,118 @@
+#include "host/sql/names.h"
+
+#include <algorithm>
+
+namespace cvdeveloper::standalone::sql {
+
+namespace {
+
+// Capital letters of Latin-1 are C3 80 to C3 9E in UTF-8, the small ones 0x20 above; C3 97 is the
+// multiplication sign. That covers every letter of the schema.
+constexpr unsigned char latin_lead = 0xC3;
+
+constexpr char fold(char c, char before) noexcept {
+    if (c >= 'A' && c <= 'Z') {
+        return static_cast<char>(c + ('a' - 'A'));
+    }
+    const auto byte = static_cast<unsigned char>(c);
+    if (static_cast<unsigned char>(before) == latin_lead && byte >= 0x80 && byte <= 0x9E &&
+        byte != 0x97) {
+        return static_cast<char>(byte + 0x20);
+    }
+    return c;
+}
+
+bool is_ascii(std::string_view text) noexcept {
+    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+// The small umlaut for a pair of letters, or nothing.
+std::string_view umlaut(char first, char second) noexcept {
+    if (fold(second, '\0') != 'e') {
+        return {};
+    }
+    switch (fold(first, '\0')) {
+        case 'a':
+            return "ä";
+        case 'o':
+            return "ö";
+        case 'u':
+            return "ü";
+        default:
+            return {};
+    }
+}
+
+}  // namespace
+
+std::string folded_name(std::string_view name) {
+    std::string folded(name);
+    for (std::size_t i = 0; i < folded.size(); ++i) {
+        folded[i] = fold(name[i], i == 0 ? '\0' : name[i - 1]);
+    }
+    return folded;
+}
+
+bool equal_names(std::string_view left, std::string_view right) noexcept {
+    if (left.size() != right.size()) {
+        return false;
+    }
+    char before_left = '\0';
+    char before_right = '\0';
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        if (left[i] != right[i] && fold(left[i], before_left) != fold(right[i], before_right)) {
+            return false;
+        }
+        before_left = left[i];
+        before_right = right[i];
+    }
+    return true;
+}
+
+std::size_t hash_name(std::string_view name) noexcept {
+    std::size_t hash = 14695981039346656037U;
+    char before = '\0';
+    for (const char c : name) {
+        hash = (hash ^ static_cast<unsigned char>(fold(c, before))) * 1099511628211U;
+        before = c;
+    }
+    return hash;
+}
+
+std::string with_umlauts(std::string_view name) {
+    std::string result;
+    result.reserve(name.size());
+    for (std::size_t i = 0; i < name.size(); ++i) {
+        const std::string_view letter =
+            i + 1 < name.size() ? umlaut(name[i], name[i + 1]) : std::string_view();
+        if (letter.empty()) {
+            result += name[i];
+        } else {
+            result += letter;
+            ++i;
+        }
+    }
+    return result;
+}
+
+void Spelling::add(std::string_view name) {
+    names_.emplace(name, name);
+}
+
+std::string_view Spelling::of(std::string_view name) const {
+    if (is_ascii(name)) {
+        bool has_pair = false;
+        for (std::size_t i = 1; i < name.size(); ++i) {
+            has_pair = has_pair || !umlaut(name[i - 1], name[i]).empty();
+        }
+        if (!has_pair || names_.contains(name)) {
+            return name;
+        }
+        const auto found = names_.find(with_umlauts(name));
+        return found == names_.end() ? name : std::string_view(found->second);
+    }
+    const auto found = names_.find(name);
+    return found == names_.end() ? name : std::string_view(found->second);
+}
+
+}  // namespace cvdeveloper::standalone::sql

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "cvdeveloper/automation/error.h"
+#include "cvdeveloper/automation/object.h"
+#include "host/folder/create_folder.h"
+#include "host/session/connector.h"
+
+namespace cvdeveloper::standalone::testing {
+
+// A folder that goes with the test.
+class TemporaryFolder {
+  public:
+    TemporaryFolder() {
+        std::string name = (std::filesystem::temp_directory_path() / "cvhost-XXXXXX").string();
+        path_ = mkdtemp(name.data());
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+
+    [[nodiscard]] std::string path(std::string_view name = {}) const {
+        return (std::filesystem::path(path_) / name).string();
+    }
+
+  private:
+    std::string path_;
+};
+
+// A host folder made once for all tests of a program; each test works on a copy of it.
+std::filesystem::path prepared_folder(bool sample);
+
+class HostTest : public ::testing::Test {
+  protected:
+    explicit HostTest(bool sample = false) {
+        std::filesystem::copy(prepared_folder(sample), host_path(),
+                              std::filesystem::copy_options::recursive);
+        connector = log_on();
+    }
+
+    [[nodiscard]] std::string host_path() const { return folder.path("büro"); }
+    [[nodiscard]] Ref<Connector> log_on(std::string_view password = "") const {
+        auto another = make_object<Connector>();
+        another->Logon(host_path(), "chef", password);
+        return another;
+    }
+    RecordSet select(std::string_view sql) { return connector->GetRecordset(sql, {}); }
+    void save(RecordSet rs) { connector->UpdateRecordset(rs, {}); }
+    // The first field of the first row.
+    Variant single(std::string_view sql) { return select(sql).value_at(0); }
+    // A new activity with a subject; its key.
+    std::string add_activity(std::string_view subject);
+
+    TemporaryFolder folder;
+    Ref<Connector> connector;
+};
+
+class SampleTest : public HostTest {
+  protected:
+    SampleTest() : HostTest(true) {}
+};
+
+// The error that the action raises; a test failure where it raises none.
+AutomationError error_of(const std::function<void()>& action);
+
+}  // namespace cvdeveloper::standalone::testing
