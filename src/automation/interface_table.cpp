@@ -4,8 +4,6 @@
 #include <limits>
 #include <utility>
 
-#include "automation/nearest_names.h"
-#include "cvdeveloper/automation/error.h"
 #include "cvdeveloper/automation/runtime_errors.h"
 
 namespace cvdeveloper {
@@ -89,12 +87,7 @@ void InterfaceTable::raise_no_such_member(std::string_view name) const {
     for (const Operation* operation : ordered_) {
         names.push_back(operation->name);
     }
-    std::string detail(class_name_);
-    detail.append(".").append(name);
-    std::string description(text_of(RuntimeError::NoSuchMember));
-    description.append(" (").append(detail).append(")").append(did_you_mean(name, names));
-    throw AutomationError(static_cast<std::int32_t>(RuntimeError::NoSuchMember), "",
-                          std::move(description));
+    cvdeveloper::raise_no_such_member(class_name_, name, names);
 }
 
 }  // namespace cvdeveloper

@@ -109,7 +109,8 @@ struct TopicRows {
 // All operations of one class, made from its topics at first use.
 class InterfaceTable {
   public:
-    InterfaceTable(std::string_view class_name, std::string_view help, std::vector<TopicRows> topics);
+    InterfaceTable(std::string_view class_name, std::string_view help,
+                   std::vector<TopicRows> topics);
 
     [[nodiscard]] std::string_view class_name() const noexcept { return class_name_; }
     [[nodiscard]] std::string_view help() const noexcept { return help_; }
