@@ -61,7 +61,8 @@ class CalendarTest : public testing::Test {
     }
 
     std::vector<std::string> asked;
-    Calendar calendar;
+    Ref<Session> session = make_object<Session>();
+    Calendar calendar{*session};
 };
 
 Date day(int year, int month, int number, int hour = 0, int minute = 0) {
@@ -76,7 +77,7 @@ TEST_F(CalendarTest, AHolidayIsAskedForAndNeverTold) {
     EXPECT_EQ(calendar.IsFeiertag(day(2026, 6, 1)), "");
 }
 
-TEST_F(CalendarTest, EachYearHasOneComponentForTheCalendarsLife) {
+TEST_F(CalendarTest, EachYearHasOneComponentForTheSessionsLife) {
     install_component();
     calendar.IsFeiertag(day(2026, 1, 1));
     calendar.IsFeiertag(day(2027, 1, 1));
