@@ -13,7 +13,7 @@ class UserInterfaceBridge : public Topic {
   public:
     using Topic::Topic;
 
-    [[nodiscard]] ObjectRef CV_CreateProgress() const;
+    ObjectRef CV_CreateProgress() const;
     // The record set and the flag that the host leaves there come back.
     std::string CV_ParseAndFill(RecordSet& rsDets, std::int16_t typ, bool& bMsg) const;
 
