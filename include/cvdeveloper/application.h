@@ -2,10 +2,16 @@
 
 #include "cvdeveloper/base.h"
 #include "cvdeveloper/data/diagnostic_log.h"
+#include "cvdeveloper/details/entry_masks.h"
+#include "cvdeveloper/details/feature_catalogue.h"
+#include "cvdeveloper/details/field_kinds.h"
+#include "cvdeveloper/details/field_options.h"
 #include "cvdeveloper/entities/activities.h"
 #include "cvdeveloper/entities/activity_types.h"
 #include "cvdeveloper/entities/attachments.h"
 #include "cvdeveloper/entities/emails.h"
+#include "cvdeveloper/entities/families.h"
+#include "cvdeveloper/entities/hierarchy.h"
 #include "cvdeveloper/entities/master_data.h"
 #include "cvdeveloper/session/session_frame.h"
 #include "cvdeveloper/tools/file_system.h"
@@ -27,7 +33,13 @@ class Application final : public SessionObject,
                           public ActivityTypes,
                           public Emails,
                           public Attachments,
-                          public MasterData {
+                          public MasterData,
+                          public Families,
+                          public Hierarchy,
+                          public FeatureCatalogue,
+                          public FieldKinds,
+                          public FieldOptions,
+                          public EntryMasks {
   public:
     static constexpr std::string_view automation_name = "Application";
 
