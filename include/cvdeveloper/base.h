@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cvdeveloper/data/field_to_file.h"
 #include "cvdeveloper/data/gateway.h"
 #include "cvdeveloper/data/table_operations.h"
 #include "cvdeveloper/data/user_profile.h"
@@ -12,7 +13,8 @@ class clsBase final : public SessionObject,
                       public Gateway,
                       public TableOperations,
                       public UserProfile,
-                      public Features {
+                      public Features,
+                      public FieldFiles {
   public:
     static constexpr std::string_view automation_name = "clsBase";
 

@@ -7,7 +7,8 @@ clsBase::clsBase(Ref<Session> shared)
       Gateway(*shared),
       TableOperations(*shared),
       UserProfile(*shared),
-      Features(*shared) {}
+      Features(*shared),
+      FieldFiles(*shared) {}
 
 const InterfaceTable& clsBase::table() const noexcept {
     static const InterfaceTable all(
@@ -20,6 +21,7 @@ const InterfaceTable& clsBase::table() const noexcept {
             {"user-profile", "What new records take from the logged-on user.",
              UserProfile::operations()},
             {"features", "Features that a record carries.", Features::operations()},
+            {"field-to-file", "Long values of a field to a file.", FieldFiles::operations()},
         });
     return all;
 }
