@@ -43,6 +43,14 @@ Application::Application(Ref<Session> shared)
       ActivityTypes(*shared),
       Emails(*shared),
       Attachments(*shared),
+      PropertyObjects(*shared),
+      ObjectPictures(*shared),
+      Projects(*shared),
+      Requests(*shared),
+      CaseFiles(*shared),
+      Contracts(*shared),
+      Addresses(*shared),
+      DetailSheets(*shared),
       MasterData(*shared) {}
 
 Ref<clsBase> Application::oBase() {
@@ -78,6 +86,15 @@ const InterfaceTable& Application::table() const noexcept {
             {"activity-types", "Making activity types.", ActivityTypes::operations()},
             {"emails", "Outgoing e-mails, kept as activities.", Emails::operations()},
             {"attachments", "Files attached to records.", Attachments::operations()},
+            {"property-objects", "Making property objects.", PropertyObjects::operations()},
+            {"object-pictures", "Picture files of property objects.", ObjectPictures::operations()},
+            {"projects", "Making projects.", Projects::operations()},
+            {"requests", "Making requests of buyers and tenants.", Requests::operations()},
+            {"case-files", "Making case files.", CaseFiles::operations()},
+            {"contracts", "Making contracts.", Contracts::operations()},
+            {"addresses", "Making addresses, their names, salutations and phone lists.",
+             Addresses::operations()},
+            {"detail-sheets", "Making detail sheets.", DetailSheets::operations()},
             {"master-data", "The settings of the host's installation.", MasterData::operations()},
             {"workers", "The worker objects of a session.", rows},
         });
