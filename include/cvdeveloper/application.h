@@ -55,6 +55,7 @@ class Application final : public SessionObject,
     Ref<clsFileSystem> oFileSystem();
 
     [[nodiscard]] const InterfaceTable& table() const noexcept override;
+    void visit_owned(OwnedVisitor& visitor) const override;
 
   private:
     explicit Application(Ref<Session> shared);

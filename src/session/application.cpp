@@ -74,6 +74,13 @@ Ref<clsFileSystem> Application::oFileSystem() {
     return file_system_;
 }
 
+void Application::visit_owned(OwnedVisitor& visitor) const {
+    SessionObject::visit_owned(visitor);
+    visitor.visit(base_.get());
+    visitor.visit(tools_.get());
+    visitor.visit(file_system_.get());
+}
+
 const InterfaceTable& Application::table() const noexcept {
     static const InterfaceTable all(
         "Application", "The root of the object model: session, records, worker objects.",
