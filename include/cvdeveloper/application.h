@@ -2,6 +2,10 @@
 
 #include "cvdeveloper/base.h"
 #include "cvdeveloper/data/diagnostic_log.h"
+#include "cvdeveloper/details/entry_masks.h"
+#include "cvdeveloper/details/feature_catalogue.h"
+#include "cvdeveloper/details/field_kinds.h"
+#include "cvdeveloper/details/field_options.h"
 #include "cvdeveloper/entities/activities.h"
 #include "cvdeveloper/entities/activity_types.h"
 #include "cvdeveloper/entities/addresses.h"
@@ -10,6 +14,8 @@
 #include "cvdeveloper/entities/contracts.h"
 #include "cvdeveloper/entities/detail_sheets.h"
 #include "cvdeveloper/entities/emails.h"
+#include "cvdeveloper/entities/families.h"
+#include "cvdeveloper/entities/hierarchy.h"
 #include "cvdeveloper/entities/master_data.h"
 #include "cvdeveloper/entities/object_pictures.h"
 #include "cvdeveloper/entities/projects.h"
@@ -43,7 +49,13 @@ class Application final : public SessionObject,
                           public Contracts,
                           public Addresses,
                           public DetailSheets,
-                          public MasterData {
+                          public MasterData,
+                          public Families,
+                          public Hierarchy,
+                          public FeatureCatalogue,
+                          public FieldKinds,
+                          public FieldOptions,
+                          public EntryMasks {
   public:
     static constexpr std::string_view automation_name = "Application";
 

@@ -1,6 +1,7 @@
 #include "support/recording_host.h"
 
 #include <deque>
+#include <filesystem>
 
 #include "cvdeveloper/automation/class_registry.h"
 #include "cvdeveloper/automation/conversions.h"
@@ -198,6 +199,17 @@ class ConnectorDouble final : public SessionDouble<host::Connector> {
 
 }  // namespace
 
+namespace {
+
+// Keeps the log of empty results out of the file system's root.
+Ref<Application> new_application() {
+    auto app = make_object<Application>();
+    app->put_LogPath(std::filesystem::temp_directory_path().string());
+    return app;
+}
+
+}  // namespace
+
 RecordingHost::RecordingHost() : state_(std::make_shared<State>()) {}
 
 void RecordingHost::answer(std::string_view sql, Rows rows) {
@@ -229,7 +241,7 @@ void RecordingHost::set_opened_file(std::string path) {
 }
 
 Ref<Application> RecordingHost::attached() const {
-    auto app = make_object<Application>();
+    auto app = new_application();
     app->Corvanta_SetApplication(make_object<ApplicationDouble>(state_));
     state_->log->clear();
     return app;
@@ -238,7 +250,7 @@ Ref<Application> RecordingHost::attached() const {
 Ref<Application> RecordingHost::connected(const std::string& folder) const {
     register_class("CVConnector.Application",
                    [state = state_] { return make_object<ConnectorDouble>(state); });
-    auto app = make_object<Application>();
+    auto app = new_application();
     app->Corvanta_InitConnector(folder, "chef", "geheim");
     register_class("CVConnector.Application", nullptr);
     return app;
