@@ -190,6 +190,17 @@ TEST_F(FamiliesStandaloneTest, OptionsAreFoundWithinTheirFieldKind) {
     EXPECT_EQ(all.value("DSN"), Variant(gas));
 }
 
+// The main table and the column for it differ in nothing but their case.
+TEST_F(FamiliesStandaloneTest, ContractsAreATableAndAColumnOfTheCatalogues) {
+    const std::string feature = app->MKM_Create("Indexmiete", "", "", "VERTRÄGE");
+    EXPECT_EQ(app->MKM_FindDSN("verträge = 1 AND Merkmal = 'Indexmiete'"), feature);
+    EXPECT_EQ(app->MKM_FindDSN("Mkm.VERTRAEGE = 1", "VERTRÄGE, Merkmal"), feature);
+    EXPECT_EQ(app->MKM_FindByDSN(feature).value("verträge"), Variant(std::int16_t{1}));
+    EXPECT_TRUE(select("SELECT Mkm.verträge, verträge.Kennung FROM Mkm, verträge "
+                       "WHERE VERTRAEGE.DSN = Mkm.DSN")
+                    .at_end());
+}
+
 TEST_F(FamiliesStandaloneTest, AnUnknownFieldOfARecordSetNamesTableAndField) {
     const RecordSet rs = app->AKT_Find("1=2");
     rs.add_new();

@@ -97,6 +97,15 @@ def test_what_the_library_reads_or_writes_exists(base, table):
     assert {fold(name) for name in LIBRARY[table].split()} <= have
 
 
+def test_columns_with_umlauts_are_spelled_one_way(base):
+    """The database folds the case of ASCII letters only."""
+    spellings = {}
+    for table in tables(base):
+        for column in columns(base, table):
+            spellings.setdefault(fold(column["name"]), set()).add(column["name"])
+    assert not [names for name, names in spellings.items() if len(names) > 1 and not name.isascii()]
+
+
 def test_texts_that_the_library_writes_fit_their_columns(base):
     types = {(t, c["name"]): c["type"] for t in tables(base) for c in columns(base, t)}
     for place, width in WIDTHS.items():
