@@ -3,7 +3,7 @@
 import re
 
 import pytest
-from schema_files import FOLDER, MAIN, columns, fold, tables
+from schema_files import FOLDER, MAIN, OWNER, columns, fold, tables
 
 # What the library reads or writes, table by table.
 LIBRARY = {
@@ -59,7 +59,7 @@ LIBRARY |= {
     "ANFDET": DETAIL + " ANF_DSN",
     "AKTENDET": DETAIL + " AKTEN_DSN",
     "PROJEKTEDET": DETAIL + " Projekte_DSN",
-    "VERTRÄGEDET": DETAIL + " VERTRÄGE_DSN",
+    "VERTRÄGEDET": DETAIL + " Verträge_DSN",
     "DETAILSDET": DETAIL + " Details_DSN",
 }
 
@@ -174,7 +174,7 @@ def test_rows_fit_the_widest_row_of_a_server_database(base):
         *[f"SELECT * FROM {t.upper()}MKM WHERE (link_dsn=?) AND (mkm_dsn=?)" for t in MAIN],
         *[
             f"SELECT {t.upper()}DET.* FROM {t} INNER JOIN {t.upper()}DET"
-            f" ON {t}.dsn = {t.upper()}DET.{t.upper()}_dsn"
+            f" ON {t}.dsn = {t.upper()}DET.{OWNER[t]}"
             f" WHERE ({t}.DSN=?) AND ({t.upper()}DET.FLDART_DSN=?) ORDER BY {t.upper()}DET.DSN"
             for t in MAIN
         ],
