@@ -4,6 +4,8 @@
 #include "cvdeveloper/automation/conversions.h"
 #include "cvdeveloper/automation/runtime_errors.h"
 #include "errors.h"
+#include "host/folder/create_folder.h"
+#include "host/register.h"
 #include "library_types.h"
 #include "python_object.h"
 #include "texts.h"
@@ -100,6 +102,21 @@ PyObject* messages_of(PyObject* module, PyObject* function) {
     });
 }
 
+PyObject* create_host_folder(PyObject* module, PyObject* arguments) {
+    return guarded(state_of(module), [&] {
+        const char* folder = nullptr;
+        int sample = 0;
+        const char* user = nullptr;
+        const char* password = nullptr;
+        if (PyArg_ParseTuple(arguments, "spss:create", &folder, &sample, &user, &password) == 0) {
+            throw PythonError{};
+        }
+        standalone::create_folder(folder,
+                                  {.sample = sample != 0, .user = user, .password = password});
+        return Owned::borrow(Py_None);
+    });
+}
+
 // At the interpreter's exit: what the registry keeps must not outlive it.
 PyObject* let_go_of_everything(PyObject* module, PyObject*) {
     return guarded(state_of(module), [] {
@@ -126,11 +143,14 @@ PyMethodDef registry_functions[] = {
     {"set_message_handler", set_message_handler_from_python, METH_O,
      "set_message_handler(handler)\n--\n\n"
      "Has handler(text) called for each message box; None restores standard error."},
+    {"_create_host_folder", create_host_folder, METH_VARARGS, nullptr},
     {"_messages_of", messages_of, METH_O, nullptr},
     {"_let_go_of_everything", let_go_of_everything, METH_NOARGS, nullptr},
     {nullptr, nullptr, 0, nullptr},
 };
 
-void register_own_classes() {}
+void register_own_classes() {
+    standalone::register_standalone_host();
+}
 
 }  // namespace cvdeveloper::python

@@ -8,11 +8,19 @@
 #include "cvdeveloper/details/field_options.h"
 #include "cvdeveloper/entities/activities.h"
 #include "cvdeveloper/entities/activity_types.h"
+#include "cvdeveloper/entities/addresses.h"
 #include "cvdeveloper/entities/attachments.h"
+#include "cvdeveloper/entities/case_files.h"
+#include "cvdeveloper/entities/contracts.h"
+#include "cvdeveloper/entities/detail_sheets.h"
 #include "cvdeveloper/entities/emails.h"
 #include "cvdeveloper/entities/families.h"
 #include "cvdeveloper/entities/hierarchy.h"
 #include "cvdeveloper/entities/master_data.h"
+#include "cvdeveloper/entities/object_pictures.h"
+#include "cvdeveloper/entities/projects.h"
+#include "cvdeveloper/entities/property_objects.h"
+#include "cvdeveloper/entities/requests.h"
 #include "cvdeveloper/session/session_frame.h"
 #include "cvdeveloper/tools/file_system.h"
 #include "cvdeveloper/tools/tools.h"
@@ -33,6 +41,14 @@ class Application final : public SessionObject,
                           public ActivityTypes,
                           public Emails,
                           public Attachments,
+                          public PropertyObjects,
+                          public ObjectPictures,
+                          public Projects,
+                          public Requests,
+                          public CaseFiles,
+                          public Contracts,
+                          public Addresses,
+                          public DetailSheets,
                           public MasterData,
                           public Families,
                           public Hierarchy,

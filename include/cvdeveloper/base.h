@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cvdeveloper/data/cross_table.h"
+#include "cvdeveloper/data/field_to_file.h"
 #include "cvdeveloper/data/gateway.h"
 #include "cvdeveloper/data/table_operations.h"
 #include "cvdeveloper/data/user_interface_bridge.h"
@@ -18,7 +19,8 @@ class clsBase final : public SessionObject,
                       public CrossTable,
                       public UserProfile,
                       public Features,
-                      public DetailValues {
+                      public DetailValues,
+                      public FieldFiles {
   public:
     static constexpr std::string_view automation_name = "clsBase";
 

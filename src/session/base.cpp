@@ -10,7 +10,8 @@ clsBase::clsBase(Ref<Session> shared)
       CrossTable(*shared),
       UserProfile(*shared),
       Features(*shared),
-      DetailValues(*shared) {}
+      DetailValues(*shared),
+      FieldFiles(*shared) {}
 
 const InterfaceTable& clsBase::table() const noexcept {
     static const InterfaceTable all(
@@ -28,6 +29,7 @@ const InterfaceTable& clsBase::table() const noexcept {
              UserProfile::operations()},
             {"features", "Features that a record carries.", Features::operations()},
             {"detail-values", "User-defined values of a record.", DetailValues::operations()},
+            {"field-to-file", "Long values of a field to a file.", FieldFiles::operations()},
         });
     return all;
 }
