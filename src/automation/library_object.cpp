@@ -79,7 +79,7 @@ Variant LibraryObject::invoke(const Operation& operation, Arguments arguments) {
         if (i >= positional) {
             const std::string_view name = arguments.names[i - positional];
             place = place_of_argument(operation, name);
-            if (place < positional) {
+            if (!slots[place].is<Missing>()) {
                 raise_given_twice(operation, name);
             }
         }
