@@ -7,6 +7,7 @@
 #include "cvdeveloper/details/field_kinds.h"
 #include "cvdeveloper/details/field_options.h"
 #include "cvdeveloper/entities/activities.h"
+#include "cvdeveloper/entities/activity_copy.h"
 #include "cvdeveloper/entities/activity_types.h"
 #include "cvdeveloper/entities/addresses.h"
 #include "cvdeveloper/entities/attachments.h"
@@ -40,6 +41,7 @@ class Application final : public SessionObject,
                           public Activities,
                           public ActivityTypes,
                           public Emails,
+                          public ActivityCopy,
                           public Attachments,
                           public PropertyObjects,
                           public ObjectPictures,

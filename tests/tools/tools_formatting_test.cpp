@@ -3,7 +3,7 @@
 #include "cvdeveloper/tools/tools.h"
 #include "platform/clock.h"
 #include "support/expect_error.h"
-#include "tools/fake_application.h"
+#include "support/recording_host.h"
 
 namespace cvdeveloper {
 namespace {
@@ -50,12 +50,13 @@ TEST(ToolsFormatting, TheCurrencyStandsWhereItIsAskedFor) {
 }
 
 TEST(ToolsFormatting, WithoutACurrencyTheMasterDataHaveIt) {
-    const auto application = make_object<FakeApplication>();
-    const Ref<clsTools> tools = make_object<clsTools>(session_with(application));
-    application->rows->content = "EUR";
+    RecordingHost host;
+    const auto app = host.attached();
+    const Ref<clsTools> tools = app->oTools();
+    host.set_master_data({{"Währung", "EUR"}});
     EXPECT_EQ(tools->FormatCurrencyCV(1234.5), "1.234,50 EUR");
-    EXPECT_EQ(application->rows->asked, std::vector<std::string>{"Währung"});
-    application->rows->content = Null{};
+    EXPECT_EQ(host.log(), Lines{"STDRS"});
+    host.set_master_data({{"Währung", Null{}}});
     EXPECT_EQ(tools->FormatCurrencyCV(1234.5), "1.234,50");
     EXPECT_EQ(tools->FormatCurrencyCV(1234.5, "", 0), "1.234,50");
     expect_error(601, "", "CVDeveloper wurde nicht initialisiert",

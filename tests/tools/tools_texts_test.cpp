@@ -7,7 +7,7 @@
 #include "cvdeveloper/tools/tools.h"
 #include "platform/clock.h"
 #include "support/expect_error.h"
-#include "support/temp_folder.h"
+#include "support/temporary_folder.h"
 
 namespace cvdeveloper {
 namespace {
@@ -180,44 +180,45 @@ std::set<std::string> all_names(clsTools& tools, std::string_view path, std::int
 }
 
 TEST_F(ToolsTexts, DirGivesTheNamesThatFitOneByOne) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("a.txt", "");
     folder.write("b.TXT", "");
     folder.write("c.doc", "");
     folder.write(".hidden.txt", "");
     folder.write("deep.txt/x", "");
     using Names = std::set<std::string>;
-    EXPECT_EQ(all_names(*tools, folder.path("*.txt"), 0), (Names{"a.txt", "b.TXT"}));
-    EXPECT_EQ(all_names(*tools, folder.path() + "\\*.txt", 2),
+    EXPECT_EQ(all_names(*tools, folder.file("*.txt"), 0), (Names{"a.txt", "b.TXT"}));
+    EXPECT_EQ(all_names(*tools, folder.path().string() + "\\*.txt", 2),
               (Names{"a.txt", "b.TXT", ".hidden.txt"}));
-    EXPECT_EQ(all_names(*tools, folder.path("*.txt"), 16), (Names{"a.txt", "b.TXT", "deep.txt"}));
-    EXPECT_EQ(all_names(*tools, folder.path("*"), 16),
+    EXPECT_EQ(all_names(*tools, folder.file("*.txt"), 16), (Names{"a.txt", "b.TXT", "deep.txt"}));
+    EXPECT_EQ(all_names(*tools, folder.file("*"), 16),
               (Names{".", "..", "a.txt", "b.TXT", "c.doc", "deep.txt"}));
-    EXPECT_EQ(all_names(*tools, folder.path() + "/", 0), (Names{"a.txt", "b.TXT", "c.doc"}));
-    EXPECT_EQ(all_names(*tools, folder.path("*.*"), 0), (Names{"a.txt", "b.TXT", "c.doc"}));
+    EXPECT_EQ(all_names(*tools, folder.path().string() + "/", 0),
+              (Names{"a.txt", "b.TXT", "c.doc"}));
+    EXPECT_EQ(all_names(*tools, folder.file("*.*"), 0), (Names{"a.txt", "b.TXT", "c.doc"}));
 }
 
 TEST_F(ToolsTexts, DirOfAPlainPathTellsWhetherItIsThere) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("a.txt", "");
     folder.write("deep/x", "");
-    EXPECT_EQ(tools->vbDir(folder.path("a.txt")), "a.txt");
+    EXPECT_EQ(tools->vbDir(folder.file("a.txt")), "a.txt");
     EXPECT_EQ(tools->vbDir(), "");
-    EXPECT_EQ(tools->vbDir(folder.path("b.txt")), "");
-    EXPECT_EQ(tools->vbDir(folder.path("deep")), "");
-    EXPECT_EQ(tools->vbDir(folder.path("deep"), 16), "deep");
-    EXPECT_EQ(tools->vbDir(folder.path("missing/*")), "");
+    EXPECT_EQ(tools->vbDir(folder.file("b.txt")), "");
+    EXPECT_EQ(tools->vbDir(folder.file("deep")), "");
+    EXPECT_EQ(tools->vbDir(folder.file("deep"), 16), "deep");
+    EXPECT_EQ(tools->vbDir(folder.file("missing/*")), "");
 }
 
 TEST_F(ToolsTexts, EachToolsObjectGoesOnWithItsOwnSearch) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("a/1", "");
     folder.write("a/2", "");
     folder.write("b/3", "");
     EXPECT_EQ(tools->vbDir(), "");
-    const std::string first = tools->vbDir(folder.path("a/*"));
+    const std::string first = tools->vbDir(folder.file("a/*"));
     const Ref<clsTools> other = make_object<clsTools>();
-    EXPECT_EQ(other->vbDir(folder.path("b/*")), "3");
+    EXPECT_EQ(other->vbDir(folder.file("b/*")), "3");
     EXPECT_EQ(tools->vbDir(), first == "1" ? "2" : "1");
     EXPECT_EQ(tools->vbDir(), "");
     EXPECT_EQ(tools->vbDir(), "");
