@@ -9,6 +9,11 @@ RATIOS = [
     ("call by name with conversions / virtual call", "dispatch_by_name", "virtual_call", 20),
     ("AKT_Create / the same by hand, committing each write", "create_activity",
      "create_activity_by_hand", 0.5),
+    ("Det_GetValue among 1,000,000 details / the same by hand", "get_detail",
+     "get_detail_by_hand", 1.05),
+    ("Det_SetValue / the same by hand", "set_detail", "set_detail_by_hand", 1.05),
+    ("Mkm_Add of five features / the same by hand, committing each write", "add_five_features",
+     "add_five_features_by_hand", 0.5),
     ("Python call without arguments / pybind11", "python_get", "pybind_get", 1.0),
     ("Python call with two texts / pybind11", "python_two_texts", "pybind_two_texts", 1.0),
 ]

@@ -116,8 +116,12 @@ void StatementReader::read_token(std::size_t index) {
 
 void StatementReader::read_name(std::size_t index) {
     const Token& token = tokens_[index];
-    read_keyword(token);
     const Token* const next = at(index + 1);
+    const bool in_path =
+        (next != nullptr && next->is(".")) || (index > 0 && at(index - 1)->is("."));
+    if (!in_path) {
+        read_keyword(token);
+    }
     // RIGHT and LEFT are words of joins to the database, and functions only in quotes.
     if (next != nullptr && next->is("(") &&
         (token.is_keyword("RIGHT") || token.is_keyword("LEFT"))) {

@@ -8,14 +8,14 @@
 namespace cvdeveloper {
 
 RecordSet new_entry(Session& session, std::string_view table) {
-    const RecordSet rs = TableOperations(session).Sql_Find(table, "1=2");
+    RecordSet rs = TableOperations(session).Sql_Find(table, "1=2");
     rs.add_new();
     rs.set("DSN", session.util().NewGUID());
     return rs;
 }
 
 RecordSet new_active_entry(Session& session, std::string_view table) {
-    const RecordSet rs = new_entry(session, table);
+    RecordSet rs = new_entry(session, table);
     rs.set("Aktiv", std::int16_t{1});
     return rs;
 }
