@@ -10,7 +10,7 @@
 
 #include "cvdeveloper/automation/idl.h"
 #include "cvdeveloper/public_classes.h"
-#include "host/folder/host_folder.h"
+#include "host/folder/create_folder.h"
 
 namespace cvdev {
 

@@ -95,11 +95,21 @@ std::string with_umlauts(std::string_view name) {
     return result;
 }
 
-void Spelling::add(std::string_view name) {
-    names_.emplace(name, name);
+void Spelling::add(std::string_view name, NameUse use) {
+    Entry& entry = names_[std::string(name)];
+    std::string& spelling = use == NameUse::Table ? entry.as_table : entry.as_column;
+    if (spelling.empty()) {
+        spelling = name;
+    }
 }
 
-std::string_view Spelling::of(std::string_view name) const {
+std::string_view Spelling::choose(const Entry& entry, NameUse use) noexcept {
+    const bool as_table =
+        entry.as_column.empty() || (use == NameUse::Table && !entry.as_table.empty());
+    return as_table ? entry.as_table : entry.as_column;
+}
+
+std::string_view Spelling::of(std::string_view name, NameUse use) const {
     if (is_ascii(name)) {
         bool has_pair = false;
         for (std::size_t i = 1; i < name.size(); ++i) {
@@ -109,10 +119,10 @@ std::string_view Spelling::of(std::string_view name) const {
             return name;
         }
         const auto found = names_.find(with_umlauts(name));
-        return found == names_.end() ? name : std::string_view(found->second);
+        return found == names_.end() ? name : choose(found->second, use);
     }
     const auto found = names_.find(name);
-    return found == names_.end() ? name : std::string_view(found->second);
+    return found == names_.end() ? name : choose(found->second, use);
 }
 
 }  // namespace cvdeveloper::standalone::sql

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -29,19 +30,28 @@ using NameMap = std::unordered_map<std::string, T, NameHash, NameEqual>;
 // ("VERTRAEGE_DSN").
 std::string with_umlauts(std::string_view name);
 
+enum class NameUse : std::uint8_t { Table, Column };
+
 // How the schema spells its names. The database folds the case of ASCII letters only, so names
-// with other letters have to reach it in one spelling.
+// with other letters have to reach it in one spelling: one as a table ("VERTRÄGE"), one as a column
+// ("verträge").
 class Spelling {
   public:
     // The first spelling of a name stays.
-    void add(std::string_view name);
+    void add(std::string_view name, NameUse use);
 
     // The schema's spelling, or the name itself where the schema has no such name or the database
     // folds it well enough. The view lives as long as this object and the argument.
-    [[nodiscard]] std::string_view of(std::string_view name) const;
+    [[nodiscard]] std::string_view of(std::string_view name, NameUse use) const;
 
   private:
-    NameMap<std::string> names_;
+    struct Entry {
+        std::string as_table;
+        std::string as_column;
+    };
+    static std::string_view choose(const Entry& entry, NameUse use) noexcept;
+
+    NameMap<Entry> names_;
 };
 
 }  // namespace cvdeveloper::standalone::sql

@@ -90,7 +90,7 @@ void StatementReader::read_token(std::size_t index) {
             return;
         case TokenKind::QuotedName:
             result_.text += token.text.front();
-            result_.text += dictionary_.spelling().of(unquoted(token.text));
+            result_.text += dictionary_.spelling().of(unquoted(token.text), use_of(index));
             result_.text += token.text.back();
             return;
         case TokenKind::String:
@@ -116,8 +116,12 @@ void StatementReader::read_token(std::size_t index) {
 
 void StatementReader::read_name(std::size_t index) {
     const Token& token = tokens_[index];
-    read_keyword(token);
     const Token* const next = at(index + 1);
+    const bool in_path =
+        (next != nullptr && next->is(".")) || (index > 0 && at(index - 1)->is("."));
+    if (!in_path) {
+        read_keyword(token);
+    }
     // RIGHT and LEFT are words of joins to the database, and functions only in quotes.
     if (next != nullptr && next->is("(") &&
         (token.is_keyword("RIGHT") || token.is_keyword("LEFT"))) {
@@ -129,24 +133,32 @@ void StatementReader::read_name(std::size_t index) {
         equal_names(token.text.substr(0, counter.size()), counter)) {
         result_.asks_for_number = true;
     }
-    result_.text += dictionary_.spelling().of(token.text);
+    result_.text += dictionary_.spelling().of(token.text, use_of(index));
 }
 
 void StatementReader::read_keyword(const Token& token) {
     static constexpr std::array<std::string_view, 3> conditions = {"WHERE", "ON", "HAVING"};
-    static constexpr std::array<std::string_view, 9> others = {
-        "FROM", "JOIN", "GROUP", "ORDER", "LIMIT", "UNION", "EXCEPT", "INTERSECT", "WINDOW"};
+    static constexpr std::array<std::string_view, 7> others = {
+        "GROUP", "ORDER", "LIMIT", "UNION", "EXCEPT", "INTERSECT", "WINDOW"};
     const auto is = [&token](std::string_view word) { return token.is_keyword(word); };
     Level& level = levels_.back();
     if (is("SELECT")) {
         level = Level{.in_select_list = true};
     } else if (std::ranges::any_of(conditions, is)) {
         level = Level{.in_condition = true};
+    } else if (is("FROM") || is("JOIN")) {
+        level = Level{.in_tables = true};
     } else if (std::ranges::any_of(others, is)) {
         level = Level{};
     } else if (is("AS")) {
         level.keeps_literals = true;
     }
+}
+
+NameUse StatementReader::use_of(std::size_t index) const {
+    const Token* const next = at(index + 1);
+    const bool qualifies = next != nullptr && next->is(".");
+    return qualifies || levels_.back().in_tables ? NameUse::Table : NameUse::Column;
 }
 
 bool StatementReader::may_lift(std::size_t index) const {

@@ -27,9 +27,9 @@ struct ReadStatement {
 // What the reader knows of the schema.
 class Dictionary {
   public:
-    void add_table(std::string_view name) { spelling_.add(name); }
+    void add_table(std::string_view name) { spelling_.add(name, NameUse::Table); }
     void add_column(std::string_view name, bool is_date) {
-        spelling_.add(name);
+        spelling_.add(name, NameUse::Column);
         if (is_date) {
             dates_.emplace(name, true);
         }
@@ -56,6 +56,7 @@ class StatementReader {
     struct Level {
         bool in_condition = false;
         bool in_select_list = false;
+        bool in_tables = false;       // between FROM or JOIN and the next word of its kind
         bool keeps_literals = false;  // inside a type, as in CAST(x AS CHAR(36))
     };
 
@@ -67,6 +68,7 @@ class StatementReader {
     void read_number(std::size_t index);
     void lift(Value value);
     [[nodiscard]] bool may_lift(std::size_t index) const;
+    [[nodiscard]] NameUse use_of(std::size_t index) const;
     [[nodiscard]] bool is_compared_with_date(std::size_t index) const;
     [[nodiscard]] std::string_view text_of(const Token& string_token);
     [[nodiscard]] bool finds_never_true() const;

@@ -6,8 +6,6 @@
 
 namespace cvdeveloper::binding {
 
-namespace {
-
 std::string describe(const Place& place) {
     std::string text(place.operation.name);
     if (place.index < place.operation.parameters.size()) {
@@ -15,6 +13,8 @@ std::string describe(const Place& place) {
     }
     return text;
 }
+
+namespace {
 
 // Converts unless the slot holds a T already; a failure names operation and argument.
 template <class T, class Convert>

@@ -3,6 +3,7 @@
 #include <mutex>
 #include <string>
 #include <unordered_map>
+#include <utility>
 
 #include "cvdeveloper/automation/runtime_errors.h"
 #include "platform/message_box.h"
@@ -21,9 +22,18 @@ struct Registry {
     BlockingHook blocking_hook;
 };
 
+// Where this thread's messages go while a MessageCapture lives.
+thread_local MessageCapture* capture = nullptr;
+
 Registry& registry() {
     static Registry instance;
     return instance;
+}
+
+BlockingHook blocking_hook() {
+    Registry& all = registry();
+    const std::lock_guard lock(all.mutex);
+    return all.blocking_hook;
 }
 
 }  // namespace
@@ -95,7 +105,17 @@ void set_message_handler(MessageHandler handler) {
     replaced = std::exchange(all.message_handler, std::move(handler));
 }
 
+MessageCapture::MessageCapture() : outer_(std::exchange(capture, this)) {}
+
+MessageCapture::~MessageCapture() {
+    capture = outer_;
+}
+
 void show_message(std::string_view text) {
+    if (capture != nullptr) {
+        capture->messages_.emplace_back(text);
+        return;
+    }
     Registry& all = registry();
     MessageHandler handler;
     {
@@ -115,12 +135,13 @@ void set_blocking_hook(BlockingHook hook) {
     all.blocking_hook = hook;
 }
 
-BlockingScope::BlockingScope() {
-    Registry& all = registry();
-    {
-        const std::lock_guard lock(all.mutex);
-        hook_ = all.blocking_hook;
+void check_interrupt() {
+    if (const BlockingHook hook = blocking_hook(); hook.check_interrupt != nullptr) {
+        hook.check_interrupt();
     }
+}
+
+BlockingScope::BlockingScope() : hook_(blocking_hook()) {
     if (hook_.release != nullptr) {
         state_ = hook_.release();
     }

@@ -4,12 +4,30 @@
 #include <limits>
 #include <utility>
 
-#include "automation/nearest_names.h"
-#include "cvdeveloper/automation/error.h"
 #include "cvdeveloper/automation/runtime_errors.h"
-#include "platform/text.h"
 
 namespace cvdeveloper {
+
+namespace {
+
+constexpr char folded(char c) noexcept {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+}
+
+}  // namespace
+
+std::size_t InterfaceTable::FoldedHash::operator()(std::string_view name) const noexcept {
+    std::size_t hash = 14695981039346656037U;
+    for (const char c : name) {
+        hash = (hash ^ static_cast<unsigned char>(folded(c))) * 1099511628211U;
+    }
+    return hash;
+}
+
+bool InterfaceTable::FoldedEqual::operator()(std::string_view left,
+                                             std::string_view right) const noexcept {
+    return std::ranges::equal(left, right, {}, folded, folded);
+}
 
 Variant Default::value() const {
     return std::visit(
@@ -35,7 +53,7 @@ InterfaceTable::InterfaceTable(std::string_view class_name, std::string_view hel
     for (const TopicRows& topic : topics_) {
         for (const Operation& operation : topic.operations) {
             ordered_.push_back(&operation);
-            Rows& rows = by_name_[lower_case(operation.name)];
+            Rows& rows = by_name_[operation.name];
             (operation.kind == OperationKind::Put ? rows.write : rows.read) = &operation;
         }
     }
@@ -45,7 +63,7 @@ InterfaceTable::InterfaceTable(std::string_view class_name, std::string_view hel
 }
 
 const Operation* InterfaceTable::find(std::string_view name, InvokeKind kind) const {
-    const auto found = by_name_.find(lower_case(name));
+    const auto found = by_name_.find(name);
     if (found == by_name_.end()) {
         return nullptr;
     }
@@ -60,7 +78,7 @@ const Operation* InterfaceTable::find(std::string_view name, InvokeKind kind) co
 }
 
 bool InterfaceTable::has_member(std::string_view name) const {
-    return by_name_.contains(lower_case(name));
+    return by_name_.contains(name);
 }
 
 void InterfaceTable::raise_no_such_member(std::string_view name) const {
@@ -69,12 +87,7 @@ void InterfaceTable::raise_no_such_member(std::string_view name) const {
     for (const Operation* operation : ordered_) {
         names.push_back(operation->name);
     }
-    std::string detail(class_name_);
-    detail.append(".").append(name);
-    std::string description(text_of(RuntimeError::NoSuchMember));
-    description.append(" (").append(detail).append(")").append(did_you_mean(name, names));
-    throw AutomationError(static_cast<std::int32_t>(RuntimeError::NoSuchMember), "",
-                          std::move(description));
+    cvdeveloper::raise_no_such_member(class_name_, name, names);
 }
 
 }  // namespace cvdeveloper

@@ -13,16 +13,7 @@
 
 namespace cvdeveloper {
 
-namespace {
-
-std::string quoted_count(const Operation& operation, std::size_t given) {
-    const std::size_t most = operation.parameters.size();
-    return std::string(operation.name) + " nimmt höchstens " + std::to_string(most) +
-           (most == 1 ? " Argument, " : " Argumente, ") + std::to_string(given) +
-           (given == 1 ? " wurde übergeben" : " wurden übergeben");
-}
-
-std::size_t place_of(const Operation& operation, std::string_view name) {
+std::size_t place_of_argument(const Operation& operation, std::string_view name) {
     const auto found = std::ranges::find_if(operation.parameters, [&](const Parameter& parameter) {
         return equal_ignoring_case(parameter.name, name);
     });
@@ -38,7 +29,18 @@ std::size_t place_of(const Operation& operation, std::string_view name) {
     return static_cast<std::size_t>(found - operation.parameters.begin());
 }
 
-}  // namespace
+void raise_too_many_arguments(const Operation& operation, std::size_t given) {
+    const std::size_t most = operation.parameters.size();
+    raise(RuntimeError::WrongArgumentCount,
+          std::string(operation.name) + " nimmt höchstens " + std::to_string(most) +
+              (most == 1 ? " Argument, " : " Argumente, ") + std::to_string(given) +
+              (given == 1 ? " wurde übergeben" : " wurden übergeben"));
+}
+
+void raise_given_twice(const Operation& operation, std::string_view name) {
+    raise(RuntimeError::NamedArgumentNotFound, std::string(operation.name) + ", Argument " +
+                                                   std::string(name) + " ist doppelt angegeben");
+}
 
 std::string_view LibraryObject::class_name() const noexcept {
     return table().class_name();
@@ -57,7 +59,7 @@ Variant LibraryObject::invoke(const Operation& operation, Arguments arguments) {
     const std::size_t count = operation.parameters.size();
     const std::size_t given = arguments.values.size();
     if (given > count) {
-        raise(RuntimeError::WrongArgumentCount, quoted_count(operation, given));
+        raise_too_many_arguments(operation, given);
     }
     // Values handed over by value are ours to convert in place; a caller's variable is not.
     if (given == count && arguments.names.empty() && arguments.by_reference == 0) {
@@ -76,11 +78,9 @@ Variant LibraryObject::invoke(const Operation& operation, Arguments arguments) {
         std::size_t place = i;
         if (i >= positional) {
             const std::string_view name = arguments.names[i - positional];
-            place = place_of(operation, name);
-            if (place < positional) {
-                raise(RuntimeError::NamedArgumentNotFound, std::string(operation.name) +
-                                                               ", Argument " + std::string(name) +
-                                                               " ist doppelt angegeben");
+            place = place_of_argument(operation, name);
+            if (!slots[place].is<Missing>()) {
+                raise_given_twice(operation, name);
             }
         }
         places[i] = place;

@@ -2,6 +2,8 @@
 
 namespace cvdeveloper {
 
+void RefCounted::visit_owned(OwnedVisitor&) const {}
+
 void RefCounted::destroy() const noexcept {
     delete this;
 }

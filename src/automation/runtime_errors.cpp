@@ -1,7 +1,9 @@
 #include "cvdeveloper/automation/runtime_errors.h"
 
 #include <string>
+#include <utility>
 
+#include "automation/nearest_names.h"
 #include "cvdeveloper/automation/error.h"
 
 namespace cvdeveloper {
@@ -68,6 +70,15 @@ void raise(RuntimeError error, std::string_view detail) {
         description.append(" (").append(detail).append(")");
     }
     throw AutomationError(static_cast<std::int32_t>(error), "", std::move(description));
+}
+
+void raise_no_such_member(std::string_view class_name, std::string_view member,
+                          std::span<const std::string_view> names) {
+    std::string description(text_of(RuntimeError::NoSuchMember));
+    description.append(" (").append(class_name).append(".").append(member).append(")");
+    description.append(did_you_mean(member, names));
+    throw AutomationError(static_cast<std::int32_t>(RuntimeError::NoSuchMember), "",
+                          std::move(description));
 }
 
 }  // namespace cvdeveloper

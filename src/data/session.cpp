@@ -106,6 +106,13 @@ void Session::keep_db_ini(ObjectRef db_ini) {
     db_ini_ = std::move(db_ini);
 }
 
+void Session::visit_owned(OwnedVisitor& visitor) const {
+    for (const ObjectRef* object : {&application_.object(), &connector_.object(), &util_.object(),
+                                    &blob_.object(), &db_ini_}) {
+        visitor.visit(object->get());
+    }
+}
+
 void Session::attach(enumInitType kind) {
     database_password.reset();
     kind_ = kind;

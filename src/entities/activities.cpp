@@ -6,9 +6,6 @@
 #include "cvdeveloper/data/gateway.h"
 #include "cvdeveloper/data/table_operations.h"
 #include "cvdeveloper/data/unit.h"
-#include "cvdeveloper/data/user_profile.h"
-#include "cvdeveloper/details/features.h"
-#include "cvdeveloper/entities/master_data.h"
 #include "entities/activity_facts.h"
 #include "entities/new_record.h"
 
@@ -37,22 +34,22 @@ Date follow_up(Session& session, const RecordSet& activity, const RecordSet& typ
 }  // namespace
 
 RecordSet Activities::AKT_New() const {
-    RecordSet rs = new_record(session(), "AKT");
-    rs.set("Kennung", MasterData(session()).STD_GetField("Kennung_AKT"));
+    RecordSet rs = new_coded_record(session(), "AKT");
     rs.set("Priorität", std::int16_t{1});
     rs.set("FArchiv", std::int16_t{0});
     return rs;
 }
 
-std::string Activities::AKT_Create(
-    std::string_view strAktArtDsn, std::string_view strBetreff, std::string_view strNotiz,
-    bool blnErledigt, Date dateDatum, Date dateDatumBis, Date dateDatumVorlage,
-    Date dateDatumAlarm, Date dateLoeschdatum, std::string_view strStichwort1,
-    std::string_view strStichwort2, std::string_view strEmskDsn, std::string_view strAdDsn1,
-    std::string_view strAdDsn2, std::string_view strObjDsn, std::string_view strAnfDsn,
-    std::string_view strProjekteDsn, std::string_view strAktenDsn,
-    std::string_view strVertraegeDsn, std::string_view strDetailsDsn,
-    std::string_view strRootAktDsn) const {
+std::string Activities::AKT_Create(std::string_view strAktArtDsn, std::string_view strBetreff,
+                                   std::string_view strNotiz, bool blnErledigt, Date dateDatum,
+                                   Date dateDatumBis, Date dateDatumVorlage, Date dateDatumAlarm,
+                                   Date dateLoeschdatum, std::string_view strStichwort1,
+                                   std::string_view strStichwort2, std::string_view strEmskDsn,
+                                   std::string_view strAdDsn1, std::string_view strAdDsn2,
+                                   std::string_view strObjDsn, std::string_view strAnfDsn,
+                                   std::string_view strProjekteDsn, std::string_view strAktenDsn,
+                                   std::string_view strVertraegeDsn, std::string_view strDetailsDsn,
+                                   std::string_view strRootAktDsn) const {
     return in_unit(session(), [&] {
         host::Util& util = session().util();
         RecordSet rs = AKT_New();
@@ -78,13 +75,7 @@ std::string Activities::AKT_Create(
                      .contract = strVertraegeDsn});
         rs.set("Details_Dsn", util.SqlStrNull(strDetailsDsn));
         rs.set("Akt_Dsn", util.SqlStrNull(strRootAktDsn));
-
-        const UserProfile user(session());
-        rs.set("ACL", user.BEN_StdACL());
-        std::string key = to_text(rs.value("Dsn"));
-        Gateway(session()).CV_UpdateRecordset(rs);
-        Features(session()).Mkm_Add("AKT", key, user.BEN_MerkmalDsnCommaList());
-        return key;
+        return create_record(session(), "AKT", rs);
     });
 }
 
@@ -101,8 +92,9 @@ void Activities::AKT_SetAktArt(RecordSet& rsAkt, const RecordSet& rsAktArt) cons
     // Day 0 is stored as it is, not as null: the host tells the two apart.
     rsAkt.set("Vorlage", done ? Date{} : follow_up(session(), rsAkt, rsAktArt));
 
+    const std::string mask = session().text(rsAkt.value("Emsk_Dsn"));
     const std::string type_mask = session().text(rsAktArt.value("Default_Emsk_Dsn"));
-    if (!session().text(rsAkt.value("Emsk_Dsn")).empty() && !type_mask.empty()) {
+    if (!mask.empty() && !type_mask.empty()) {
         rsAkt.set("Emsk_Dsn", rsAktArt.value("Default_Emsk_Dsn"));
     }
     Gateway(session()).CV_UpdateRecordset(rsAkt);

@@ -35,9 +35,7 @@ constexpr Parameter set_type_parameters[] = {
     {.name = "rsAkt",
      .help = "record set on the activity; what the host leaves there comes back",
      .direction = Direction::InOut},
-    {.name = "rsAktArt",
-     .help = "record set on the activity type",
-     .direction = Direction::InOut},
+    {.name = "rsAktArt", .help = "record set on the activity type", .direction = Direction::InOut},
 };
 constexpr Parameter set_type_by_key_parameters[] = {
     {.name = "strAktDsn", .help = "key of the activity"},

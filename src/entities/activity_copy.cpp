@@ -59,8 +59,8 @@ constexpr Operation rows[] = {
               .example = "app.AKT_Update(app.AKT_Copy(app.AKT_Find(where), \"\", project))"}},
 };
 
-// Keys of the originals and of their copies, each list between and with bars. All keys have one
-// length, so equal places mean one row.
+// Keys of the originals and of their copies, each list between and with bars. A host's keys have
+// one length, so equal places mean one row.
 struct KeyLists {
     std::string old_keys = "|";
     std::string new_keys = "|";
@@ -81,7 +81,7 @@ void point_to_copies(Session& session, const RecordSet& copies, const KeyLists& 
             continue;
         }
         const std::size_t place = keys.old_keys.find("|" + parent + "|");
-        if (place != std::string::npos) {
+        if (place < keys.new_keys.size()) {
             copies.set("Akt_Dsn", keys.new_keys.substr(place + 1, parent.size()));
         }
     }
@@ -99,8 +99,7 @@ RecordSet ActivityCopy::AKT_Copy(const RecordSet& rsAkt, std::string_view strUse
     return in_unit(session(), [&] {
         const TableOperations tables(session());
         const bool moves = datStartDate.days != 0 && datRefDate.days != 0;
-        const RecordSet copies =
-            Gateway(session()).CV_GetRecordset("SELECT * FROM Akt WHERE 1=2");
+        const RecordSet copies = Gateway(session()).CV_GetRecordset("SELECT * FROM Akt WHERE 1=2");
         KeyLists keys;
         bool any = false;
         for (; !rsAkt.at_end(); rsAkt.move_next()) {

@@ -21,12 +21,10 @@ inline constexpr Parameter alarm{
 inline constexpr Parameter deletion{.name = "dateLoeschdatum",
                                     .help = "when it may be deleted; 0 for none",
                                     .default_value = Date{}};
-inline constexpr Parameter keyword_1{.name = "strStichwort1",
-                                     .help = "first keyword, cut to 50 characters",
-                                     .default_value = ""};
-inline constexpr Parameter keyword_2{.name = "strStichwort2",
-                                     .help = "second keyword, cut to 50 characters",
-                                     .default_value = ""};
+inline constexpr Parameter keyword_1{
+    .name = "strStichwort1", .help = "first keyword, cut to 50 characters", .default_value = ""};
+inline constexpr Parameter keyword_2{
+    .name = "strStichwort2", .help = "second keyword, cut to 50 characters", .default_value = ""};
 inline constexpr Parameter mask{
     .name = "strEmskDsn", .help = "key of the entry mask", .default_value = ""};
 inline constexpr Parameter address_1{

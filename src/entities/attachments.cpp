@@ -85,8 +85,8 @@ std::int32_t Attachments::BLOB_Copy(std::string_view strSorceLinkDsn,
             const std::int32_t kind = kind_of(rs);
             std::string file;
             if (kind == BLOBTYPE_ATTACHMENT) {
-                file = session().blob().OpenBlobFile(to_text(rs.value("Dsn")), strSorceLinkDsn,
-                                                     kind);
+                file =
+                    session().blob().OpenBlobFile(to_text(rs.value("Dsn")), strSorceLinkDsn, kind);
                 if (!files::file_exists(file)) {
                     continue;
                 }

@@ -1,10 +1,7 @@
 #include "cvdeveloper/entities/emails.h"
 
-#include "cvdeveloper/automation/conversions.h"
-#include "cvdeveloper/data/gateway.h"
 #include "cvdeveloper/data/unit.h"
 #include "cvdeveloper/data/user_profile.h"
-#include "cvdeveloper/details/features.h"
 #include "cvdeveloper/entities/activities.h"
 #include "cvdeveloper/entities/attachments.h"
 #include "data/help_texts.h"
@@ -84,13 +81,12 @@ std::span<const Operation> Emails::operations() noexcept {
 std::string Emails::AKT_CreateEMail(
     std::string_view strAktArtDsn, std::string_view strMailTo, std::string_view strMailFrom,
     std::string_view strMailSubject, std::string_view strMailBody,
-    std::string_view strAttachmentPipeList, std::string_view strMailCC,
-    std::string_view strMailBCC, bool blnErledigt, Date dateDatum, Date dateDatumBis,
-    Date dateDatumVorlage, Date dateDatumAlarm, Date dateLoeschdatum,
-    std::string_view strStichwort1, std::string_view strStichwort2, std::string_view strEmskDsn,
-    std::string_view strAdDsn1, std::string_view strAdDsn2, std::string_view strObjDsn,
-    std::string_view strAnfDsn, std::string_view strProjekteDsn, std::string_view strAktenDsn,
-    std::string_view strVertraegeDsn, std::string_view strDetailsDsn,
+    std::string_view strAttachmentPipeList, std::string_view strMailCC, std::string_view strMailBCC,
+    bool blnErledigt, Date dateDatum, Date dateDatumBis, Date dateDatumVorlage, Date dateDatumAlarm,
+    Date dateLoeschdatum, std::string_view strStichwort1, std::string_view strStichwort2,
+    std::string_view strEmskDsn, std::string_view strAdDsn1, std::string_view strAdDsn2,
+    std::string_view strObjDsn, std::string_view strAnfDsn, std::string_view strProjekteDsn,
+    std::string_view strAktenDsn, std::string_view strVertraegeDsn, std::string_view strDetailsDsn,
     std::string_view strRootAktDsn) const {
     static_cast<void>(strDetailsDsn);  // an e-mail carries no link to a detail sheet
     return in_unit(session(), [&] {
@@ -130,16 +126,14 @@ std::string Emails::AKT_CreateEMail(
         rs.set("deferred_delivery_time", now());
         rs.set("delivery_state", std::int32_t{DELIVERYSTATE_Queue});
         rs.set("from_ben_dsn", user.field("DSN"));
-        rs.set("ACL", user.BEN_StdACL());
 
-        std::string key = to_text(rs.value("Dsn"));
-        Gateway(session()).CV_UpdateRecordset(rs);
+        std::string key = save_new_record(session(), rs);
         std::string files(strAttachmentPipeList);
         while (!files.empty()) {
             const std::string path = take_first(files, "|");
             Attachments(session()).AKT_Blob_Add(key, trim_blanks(path), true, true);
         }
-        Features(session()).Mkm_Add("AKT", key, user.BEN_MerkmalDsnCommaList());
+        add_standard_features(session(), "AKT", key);
         return key;
     });
 }

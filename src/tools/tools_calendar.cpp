@@ -6,7 +6,7 @@ namespace cvdeveloper {
 namespace {
 
 constexpr char component[] =
-    "Component clqexstdc10.cLegalHolidays, one object a year, kept as long as the tools live.";
+    "Component clqexstdc10.cLegalHolidays, one object a year, which the session keeps.";
 
 // The flags are passed by reference in the interface and never changed.
 constexpr Parameter move_parameters[] = {

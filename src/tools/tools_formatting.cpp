@@ -131,7 +131,7 @@ std::string clsTools::FormatCurrencyCV(double dblWert, std::string_view strCurre
         Variant value = Gateway{session()}.CV_STDRS().value("Währung");
         currency = value.is<Null>() ? std::string() : to_text(std::move(value));
     }
-    const std::string number = regional::format_number(dblWert, {});
+    std::string number = regional::format_number(dblWert, {});
     switch (lngPos) {
         case 0:
             return std::string(trim_blanks(currency + " " + number));

@@ -216,6 +216,20 @@ TEST(Dispatch, UnknownArgumentNameIsError448WithTheNearestName) {
         [&] { sample->invoke("Join", InvokeKind::Method, {.values = values, .names = names}); });
 }
 
+TEST(Dispatch, ArgumentGivenTwiceIsError448) {
+    const auto sample = make_object<Sample>();
+    const std::array<std::string_view, 1> one_name{"strLeft"};
+    std::array<Variant, 2> values{"a", "b"};
+    expect_error(
+        448, "", "Benanntes Argument nicht gefunden (Join, Argument strLeft ist doppelt angegeben)",
+        [&] { sample->invoke("Join", InvokeKind::Method, {.values = values, .names = one_name}); });
+    const std::array<std::string_view, 2> two_names{"strLeft", "strleft"};
+    values = {"a", "b"};
+    expect_error_number(448, [&] {
+        sample->invoke("Join", InvokeKind::Method, {.values = values, .names = two_names});
+    });
+}
+
 TEST(Dispatch, ObjectOfAnotherClassIsError13) {
     class Other final : public Object {
       public:

@@ -11,7 +11,7 @@
 #include "platform/clock.h"
 #include "platform/file_operations.h"
 #include "support/expect_error.h"
-#include "support/temp_folder.h"
+#include "support/temporary_folder.h"
 
 namespace cvdeveloper::files {
 namespace {
@@ -36,12 +36,12 @@ class TmpDir {
 };
 
 TEST(Files, BothSeparatorsReachTheDisk) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("eins/zwei.txt", "x");
-    EXPECT_TRUE(file_exists(folder.path() + "\\eins\\zwei.txt"));
-    EXPECT_TRUE(folder_exists(folder.path() + "\\eins\\"));
-    EXPECT_FALSE(file_exists(folder.path("eins")));
-    EXPECT_FALSE(folder_exists(folder.path("eins/zwei.txt")));
+    EXPECT_TRUE(file_exists(folder.path().string() + "\\eins\\zwei.txt"));
+    EXPECT_TRUE(folder_exists(folder.path().string() + "\\eins\\"));
+    EXPECT_FALSE(file_exists(folder.file("eins")));
+    EXPECT_FALSE(folder_exists(folder.file("eins/zwei.txt")));
 }
 
 TEST(Files, PathsThatCannotBeOneDoNotExist) {
@@ -52,184 +52,184 @@ TEST(Files, PathsThatCannotBeOneDoNotExist) {
 }
 
 TEST(Files, CopiesKeepTheirDateAndRights) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("a", "text");
-    fs::permissions(folder.path("a"), fs::perms::owner_read | fs::perms::owner_write);
-    const auto time = fs::last_write_time(folder.path("a")) - std::chrono::hours(48);
-    fs::last_write_time(folder.path("a"), time);
-    copy_file(folder.path("a"), folder.path("b"), false);
+    fs::permissions(folder.file("a"), fs::perms::owner_read | fs::perms::owner_write);
+    const auto time = fs::last_write_time(folder.file("a")) - std::chrono::hours(48);
+    fs::last_write_time(folder.file("a"), time);
+    copy_file(folder.file("a"), folder.file("b"), false);
     EXPECT_EQ(folder.read("b"), "text");
-    EXPECT_EQ(fs::last_write_time(folder.path("b")), time);
-    EXPECT_EQ(fs::status(folder.path("b")).permissions(),
+    EXPECT_EQ(fs::last_write_time(folder.file("b")), time);
+    EXPECT_EQ(fs::status(folder.file("b")).permissions(),
               fs::perms::owner_read | fs::perms::owner_write);
 }
 
 TEST(Files, OnlyCopyingWithOverwriteReplacesAFile) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("a", "new");
     folder.write("b", "old");
-    expect_error(58, "", "Datei existiert bereits (" + folder.path("b") + ")",
-                 [&] { copy_files(folder.path("a"), folder.path("b"), false); });
+    expect_error(58, "", "Datei existiert bereits (" + folder.file("b") + ")",
+                 [&] { copy_files(folder.file("a"), folder.file("b"), false); });
     EXPECT_EQ(folder.read("b"), "old");
-    copy_files(folder.path("a"), folder.path("b"), true);
+    copy_files(folder.file("a"), folder.file("b"), true);
     EXPECT_EQ(folder.read("b"), "new");
 }
 
 TEST(Files, MissingSourcesAreToldApartByTheirFolder) {
-    const TempFolder folder;
-    expect_error(53, "", "Datei nicht gefunden (" + folder.path("a") + ")",
-                 [&] { copy_files(folder.path("a"), folder.path("b"), false); });
-    expect_error(76, "", "Pfad nicht gefunden (" + folder.path("x/a") + ")",
-                 [&] { copy_files(folder.path("x/a"), folder.path("b"), false); });
-    expect_error_number(53, [&] { remove_files(folder.path("a")); });
-    expect_error_number(76, [&] { remove_files(folder.path("x/a")); });
-    expect_error_number(53, [&] { move_files(folder.path("a"), folder.path("b")); });
-    expect_error_number(76, [&] { remove_folders(folder.path("x")); });
-    expect_error_number(53, [&] { read_text(folder.path("a")); });
-    expect_error_number(76, [&] { entries(folder.path("x")); });
+    const TemporaryFolder folder;
+    expect_error(53, "", "Datei nicht gefunden (" + folder.file("a") + ")",
+                 [&] { copy_files(folder.file("a"), folder.file("b"), false); });
+    expect_error(76, "", "Pfad nicht gefunden (" + folder.file("x/a") + ")",
+                 [&] { copy_files(folder.file("x/a"), folder.file("b"), false); });
+    expect_error_number(53, [&] { remove_files(folder.file("a")); });
+    expect_error_number(76, [&] { remove_files(folder.file("x/a")); });
+    expect_error_number(53, [&] { move_files(folder.file("a"), folder.file("b")); });
+    expect_error_number(76, [&] { remove_folders(folder.file("x")); });
+    expect_error_number(53, [&] { read_text(folder.file("a")); });
+    expect_error_number(76, [&] { entries(folder.file("x")); });
 }
 
 TEST(Files, TargetsInAMissingFolderAreError76) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("a", "");
-    expect_error(76, "", "Pfad nicht gefunden (" + folder.path("x/b") + ")",
-                 [&] { copy_files(folder.path("a"), folder.path("x/b"), false); });
-    expect_error_number(76, [&] { copy_files(folder.path("a"), folder.path("x/"), false); });
-    expect_error_number(76, [&] { move_files(folder.path("a"), folder.path("x/b")); });
-    expect_error_number(76, [&] { create_folder(folder.path("x/y")); });
-    expect_error_number(76, [&] { OutputFile(folder.path("x/y"), OutputFile::Mode::Append); });
+    expect_error(76, "", "Pfad nicht gefunden (" + folder.file("x/b") + ")",
+                 [&] { copy_files(folder.file("a"), folder.file("x/b"), false); });
+    expect_error_number(76, [&] { copy_files(folder.file("a"), folder.file("x/"), false); });
+    expect_error_number(76, [&] { move_files(folder.file("a"), folder.file("x/b")); });
+    expect_error_number(76, [&] { create_folder(folder.file("x/y")); });
+    expect_error_number(76, [&] { OutputFile(folder.file("x/y"), OutputFile::Mode::Append); });
 }
 
 TEST(Files, WildcardsNameSeveralFilesAndNoFolders) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("a.txt", "a");
     folder.write("b.TXT", "b");
     folder.write("c.doc", "c");
     folder.write("d.txt/e", "e");
-    create_folder(folder.path("to"));
-    copy_files(folder.path("*.txt"), folder.path("to"), false);
+    create_folder(folder.file("to"));
+    copy_files(folder.file("*.txt"), folder.file("to"), false);
     EXPECT_EQ(folder.read("to/a.txt"), "a");
     EXPECT_EQ(folder.read("to/b.TXT"), "b");
     EXPECT_FALSE(folder.has("to/c.doc"));
     EXPECT_FALSE(folder.has("to/d.txt"));
-    remove_files(folder.path("?.txt"));
+    remove_files(folder.file("?.txt"));
     EXPECT_FALSE(folder.has("a.txt"));
     EXPECT_TRUE(folder.has("d.txt/e"));
-    expect_error_number(53, [&] { remove_files(folder.path("*.txt")); });
+    expect_error_number(53, [&] { remove_files(folder.file("*.txt")); });
 }
 
 TEST(Files, ATargetThatEndsInASeparatorIsAFolder) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("a", "x");
-    create_folder(folder.path("to"));
-    copy_files(folder.path("a"), folder.path("to") + "\\", false);
+    create_folder(folder.file("to"));
+    copy_files(folder.file("a"), folder.file("to") + "\\", false);
     EXPECT_EQ(folder.read("to/a"), "x");
-    move_files(folder.path("a"), folder.path("to/") + "../b");
+    move_files(folder.file("a"), folder.file("to/") + "../b");
     EXPECT_EQ(folder.read("b"), "x");
 }
 
 TEST(Files, AFolderIsNoTargetForAFile) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("a", "x");
-    create_folder(folder.path("to"));
-    expect_error_number(70, [&] { copy_files(folder.path("a"), folder.path("to"), true); });
-    expect_error_number(58, [&] { move_files(folder.path("a"), folder.path("to")); });
+    create_folder(folder.file("to"));
+    expect_error_number(70, [&] { copy_files(folder.file("a"), folder.file("to"), true); });
+    expect_error_number(58, [&] { move_files(folder.file("a"), folder.file("to")); });
 }
 
 TEST(Files, EmptyPathsAndTargetsWithWildcardsAreRefused) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("a", "x");
-    expect_error_number(5, [&] { copy_files("", folder.path("b"), false); });
-    expect_error_number(5, [&] { copy_files(folder.path("a"), "", false); });
+    expect_error_number(5, [&] { copy_files("", folder.file("b"), false); });
+    expect_error_number(5, [&] { copy_files(folder.file("a"), "", false); });
     expect_error_number(5, [] { remove_files(""); });
     expect_error_number(5, [] { remove_folders(""); });
-    expect_error_number(52, [&] { copy_files(folder.path("a"), folder.path("b*"), false); });
+    expect_error_number(52, [&] { copy_files(folder.file("a"), folder.file("b*"), false); });
 }
 
 TEST(Files, MovingNeverOverwrites) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("a", "1");
     folder.write("b", "2");
     folder.write("c/d", "3");
     folder.write("e/f", "4");
-    expect_error_number(58, [&] { move_files(folder.path("a"), folder.path("b")); });
-    expect_error_number(58, [&] { move_folders(folder.path("c"), folder.path("e")); });
+    expect_error_number(58, [&] { move_files(folder.file("a"), folder.file("b")); });
+    expect_error_number(58, [&] { move_folders(folder.file("c"), folder.file("e")); });
     EXPECT_EQ(folder.read("b"), "2");
-    move_folders(folder.path("c"), folder.path("e/"));
+    move_folders(folder.file("c"), folder.file("e/"));
     EXPECT_EQ(folder.read("e/c/d"), "3");
     EXPECT_FALSE(folder.has("c"));
 }
 
 TEST(Files, AFolderCannotGoIntoItself) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("a/b", "1");
-    expect_error_number(70, [&] { move_folders(folder.path("a"), folder.path("a/c")); });
-    expect_error_number(70, [&] { copy_folders(folder.path("a"), folder.path("a/c"), false); });
-    expect_error_number(70, [&] { copy_folders(folder.path("a"), folder.path("a"), true); });
+    expect_error_number(70, [&] { move_folders(folder.file("a"), folder.file("a/c")); });
+    expect_error_number(70, [&] { copy_folders(folder.file("a"), folder.file("a/c"), false); });
+    expect_error_number(70, [&] { copy_folders(folder.file("a"), folder.file("a"), true); });
     EXPECT_FALSE(folder.has("a/c"));
 }
 
 TEST(Files, CopiedFoldersAreMergedIntoFoldersThatExist) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("a/x", "new");
     folder.write("a/deep/y", "y");
     folder.write("b/x", "old");
     folder.write("b/z", "z");
-    expect_error_number(58, [&] { copy_folders(folder.path("a"), folder.path("b"), false); });
+    expect_error_number(58, [&] { copy_folders(folder.file("a"), folder.file("b"), false); });
     EXPECT_EQ(folder.read("b/x"), "old");
-    copy_folders(folder.path("a"), folder.path("b"), true);
+    copy_folders(folder.file("a"), folder.file("b"), true);
     EXPECT_EQ(folder.read("b/x"), "new");
     EXPECT_EQ(folder.read("b/deep/y"), "y");
     EXPECT_EQ(folder.read("b/z"), "z");
-    copy_folders(folder.path("a"), folder.path("c"), false);
+    copy_folders(folder.file("a"), folder.file("c"), false);
     EXPECT_EQ(folder.read("c/deep/y"), "y");
 }
 
 // A link into its own tree would copy for ever.
 TEST(Files, LinksAreCopiedAsLinksAndDeletedWithoutWhatTheyLeadTo) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("a/x", "1");
     folder.write("outside/y", "2");
-    fs::create_directory_symlink("..", folder.path("a/loop"));
-    fs::create_directory_symlink(folder.path("outside"), folder.path("a/out"));
-    copy_folders(folder.path("a"), folder.path("b"), false);
-    EXPECT_TRUE(fs::is_symlink(folder.path("b/loop")));
-    EXPECT_EQ(total_size(folder.path("b")), 1);
-    remove_folders(folder.path("a"));
+    fs::create_directory_symlink("..", folder.file("a/loop"));
+    fs::create_directory_symlink(folder.file("outside"), folder.file("a/out"));
+    copy_folders(folder.file("a"), folder.file("b"), false);
+    EXPECT_TRUE(fs::is_symlink(folder.file("b/loop")));
+    EXPECT_EQ(total_size(folder.file("b")), 1);
+    remove_folders(folder.file("a"));
     EXPECT_FALSE(folder.has("a"));
     EXPECT_EQ(folder.read("outside/y"), "2");
 }
 
 TEST(Files, WildcardsDeleteSeveralFolders) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("jahr1/x", "");
     folder.write("jahr2/deep/x", "");
     folder.write("jahr.txt", "");
-    remove_folders(folder.path("Jahr?"));
+    remove_folders(folder.file("Jahr?"));
     EXPECT_FALSE(folder.has("jahr1"));
     EXPECT_FALSE(folder.has("jahr2"));
     EXPECT_TRUE(folder.has("jahr.txt"));
-    expect_error_number(76, [&] { remove_folders(folder.path("jahr.txt")); });
+    expect_error_number(76, [&] { remove_folders(folder.file("jahr.txt")); });
     expect_error_number(70, [] { remove_folders("/"); });
 }
 
 TEST(Files, CreatingWhatExistsIsError58) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("a", "");
-    expect_error_number(58, [&] { create_folder(folder.path()); });
-    expect_error_number(58, [&] { OutputFile(folder.path("a"), OutputFile::Mode::CreateNew); });
+    expect_error_number(58, [&] { create_folder(folder.path().string()); });
+    expect_error_number(58, [&] { OutputFile(folder.file("a"), OutputFile::Mode::CreateNew); });
 }
 
 TEST(Files, PartsOfAPathThatAreFilesAreError76) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("a", "");
-    expect_error_number(76, [&] { create_folder(folder.path("a/b")); });
-    expect_error_number(70, [&] { OutputFile(folder.path(), OutputFile::Mode::Append); });
+    expect_error_number(76, [&] { create_folder(folder.file("a/b")); });
+    expect_error_number(70, [&] { OutputFile(folder.path().string(), OutputFile::Mode::Append); });
 }
 
 TEST(Files, NamesThatAreTooLongAreError52) {
-    const TempFolder folder;
-    expect_error_number(52, [&] { create_folder(folder.path(std::string(300, 'x'))); });
+    const TemporaryFolder folder;
+    expect_error_number(52, [&] { create_folder(folder.file(std::string(300, 'x'))); });
 }
 
 TEST(Files, AFullDiskIsError61) {
@@ -238,29 +238,29 @@ TEST(Files, AFullDiskIsError61) {
 }
 
 TEST(Files, AppendedLinesEndWithCrLfAndMakeTheFile) {
-    const TempFolder folder;
-    EXPECT_TRUE(append_line(folder.path() + "\\log.txt", "a"));
-    EXPECT_TRUE(append_line(folder.path("log.txt"), "Büro"));
+    const TemporaryFolder folder;
+    EXPECT_TRUE(append_line(folder.path().string() + "\\log.txt", "a"));
+    EXPECT_TRUE(append_line(folder.file("log.txt"), "Büro"));
     EXPECT_EQ(folder.read("log.txt"), "a\r\nBüro\r\n");
-    EXPECT_FALSE(append_line(folder.path("x/log.txt"), "a"));
-    EXPECT_FALSE(append_line(folder.path(), "a"));
+    EXPECT_FALSE(append_line(folder.file("x/log.txt"), "a"));
+    EXPECT_FALSE(append_line(folder.path().string(), "a"));
     EXPECT_FALSE(append_line("", "a"));
 }
 
 TEST(Files, PropertiesTellSizeAndLocalDates) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.write("a", "12345");
-    const Properties facts = properties(folder.path("a"));
+    const Properties facts = properties(folder.file("a"));
     EXPECT_EQ(facts.size, 5U);
     EXPECT_NEAR(facts.modified.days, now().days, 1.0 / 1440);
     EXPECT_NEAR(facts.created.days, now().days, 1.0 / 1440);
-    expect_error_number(53, [&] { properties(folder.path("b")); });
+    expect_error_number(53, [&] { properties(folder.file("b")); });
 }
 
 TEST(Files, TheTemporaryFolderIsTmpdirWhereThatIsAFolder) {
-    const TempFolder folder;
-    const TmpDir variable(folder.path().c_str());
-    EXPECT_EQ(temp_folder(), folder.path());
+    const TemporaryFolder folder;
+    const TmpDir variable(folder.path().string().c_str());
+    EXPECT_EQ(temp_folder(), folder.path().string());
 }
 
 TEST(Files, WithoutTmpdirTheTemporaryFolderIsForTheUsersEyesOnly) {

@@ -1,6 +1,7 @@
 #include "support/recording_host.h"
 
 #include <deque>
+#include <filesystem>
 
 #include "cvdeveloper/automation/class_registry.h"
 #include "cvdeveloper/automation/conversions.h"
@@ -18,6 +19,8 @@ struct RecordingHost::State {
     Rows user = row({{"DSN", "USER"}, {"Login_Name", "chef"}});
     Rows master_data = row({{"DSN", "STD"}});
     std::string opened_file;
+    std::map<std::string, std::string, std::less<>> placeholders;
+    std::int32_t build = 133;
     int keys = 0;
     int blob_keys = 0;
 
@@ -171,7 +174,7 @@ class ApplicationDouble final : public SessionDouble<host::Application> {
     using SessionDouble::SessionDouble;
     bool IsLoggedIn() override { return true; }
     std::string Folder() override { return "C:\\Corvanta"; }
-    std::int32_t VersionBuild() override { return 133; }
+    std::int32_t VersionBuild() override { return state().build; }
     ObjectRef Panes(std::string_view form) override {
         note("Panes " + std::string(form));
         return form == "F_UNBEKANNT" ? ObjectRef() : make_object<PaneDouble>(shared());
@@ -179,7 +182,8 @@ class ApplicationDouble final : public SessionDouble<host::Application> {
     std::string Get_Platzhalter(const RecordSet&, std::string_view name,
                                 std::string_view sql) override {
         note("Get_Platzhalter " + std::string(name) + ", " + std::string(sql));
-        return "<" + std::string(name) + ">";
+        const auto found = state().placeholders.find(name);
+        return found == state().placeholders.end() ? "<" + std::string(name) + ">" : found->second;
     }
 };
 
@@ -195,6 +199,17 @@ class ConnectorDouble final : public SessionDouble<host::Connector> {
         return make_object<PaneDouble>(shared());
     }
 };
+
+}  // namespace
+
+namespace {
+
+// Keeps the log of empty results out of the file system's root.
+Ref<Application> new_application() {
+    auto app = make_object<Application>();
+    app->put_LogPath(std::filesystem::temp_directory_path().string());
+    return app;
+}
 
 }  // namespace
 
@@ -228,8 +243,16 @@ void RecordingHost::set_opened_file(std::string path) {
     state_->opened_file = std::move(path);
 }
 
+void RecordingHost::answer_placeholder(std::string_view name, std::string value) {
+    state_->placeholders.insert_or_assign(std::string(name), std::move(value));
+}
+
+void RecordingHost::set_build(std::int32_t build) {
+    state_->build = build;
+}
+
 Ref<Application> RecordingHost::attached() const {
-    auto app = make_object<Application>();
+    auto app = new_application();
     app->Corvanta_SetApplication(make_object<ApplicationDouble>(state_));
     state_->log->clear();
     return app;
@@ -238,7 +261,7 @@ Ref<Application> RecordingHost::attached() const {
 Ref<Application> RecordingHost::connected(const std::string& folder) const {
     register_class("CVConnector.Application",
                    [state = state_] { return make_object<ConnectorDouble>(state); });
-    auto app = make_object<Application>();
+    auto app = new_application();
     app->Corvanta_InitConnector(folder, "chef", "geheim");
     register_class("CVConnector.Application", nullptr);
     return app;

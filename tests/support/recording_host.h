@@ -36,6 +36,9 @@ class RecordingHost {
     void answer_blobs(std::string_view link_key, Rows rows);
     // What OpenBlobFile gives back.
     void set_opened_file(std::string path);
+    // What Get_Platzhalter gives for a name; "<name>" where nothing else is said.
+    void answer_placeholder(std::string_view name, std::string value);
+    void set_build(std::int32_t build);
 
     // A new Application attached to this host as a running application or through a connector.
     [[nodiscard]] Ref<Application> attached() const;

@@ -30,7 +30,11 @@ class TemporaryFolder {
         return {std::istreambuf_iterator<char>(stream), {}};
     }
     void write(const std::string& name, const std::string& content) const {
+        std::filesystem::create_directories((path_ / name).parent_path());
         std::ofstream(path_ / name, std::ios::binary) << content;
+    }
+    [[nodiscard]] bool has(const std::string& name) const {
+        return std::filesystem::exists(path_ / name);
     }
 
   private:

@@ -6,43 +6,43 @@
 
 #include "platform/clock.h"
 #include "support/expect_error.h"
-#include "support/temp_folder.h"
+#include "support/temporary_folder.h"
 
 namespace cvdeveloper {
 namespace {
 
 class FileSystem : public testing::Test {
   protected:
-    TempFolder folder;
+    TemporaryFolder folder;
     Ref<clsFileSystem> files = make_object<clsFileSystem>();
 };
 
 TEST_F(FileSystem, AppendFileMakesAFileOfLines) {
-    files->AppendFile(folder.path("a.txt"), "a");
+    files->AppendFile(folder.file("a.txt"), "a");
     EXPECT_EQ(folder.read("a.txt"), "a\r\n");
-    files->AppendFile(folder.path("a.txt"), "b");
+    files->AppendFile(folder.file("a.txt"), "b");
     EXPECT_EQ(folder.read("a.txt"), "a\r\nb\r\n");
 }
 
 TEST_F(FileSystem, AppendFileInAMissingFolderDoesNothing) {
-    files->AppendFile(folder.path("x/a.txt"), "a");
+    files->AppendFile(folder.file("x/a.txt"), "a");
     EXPECT_FALSE(folder.has("x"));
 }
 
 TEST_F(FileSystem, CreateTextFileOverwritesOnlyWhenAsked) {
-    files->CreateTextFile(folder.path("a.txt"))->Write("lang");
-    expect_error(58, "", "Datei existiert bereits (" + folder.path("a.txt") + ")",
-                 [&] { files->CreateTextFile(folder.path("a.txt")); });
+    files->CreateTextFile(folder.file("a.txt"))->Write("lang");
+    expect_error(58, "", "Datei existiert bereits (" + folder.file("a.txt") + ")",
+                 [&] { files->CreateTextFile(folder.file("a.txt")); });
     EXPECT_EQ(folder.read("a.txt"), "lang");
-    files->CreateTextFile(folder.path("a.txt"), true)->WriteLine("x");
+    files->CreateTextFile(folder.file("a.txt"), true)->WriteLine("x");
     EXPECT_EQ(folder.read("a.txt"), "x\r\n");
-    expect_error_number(52, [&] { files->CreateTextFile(folder.path("a*.txt")); });
+    expect_error_number(52, [&] { files->CreateTextFile(folder.file("a*.txt")); });
     expect_error_number(5, [&] { files->CreateTextFile(""); });
-    expect_error_number(76, [&] { files->CreateTextFile(folder.path("x/a.txt")); });
+    expect_error_number(76, [&] { files->CreateTextFile(folder.file("x/a.txt")); });
 }
 
 TEST_F(FileSystem, AStreamForWritingCountsLinesAndColumns) {
-    const Ref<TextStream> stream = files->CreateTextFile(folder.path("a.txt"));
+    const Ref<TextStream> stream = files->CreateTextFile(folder.file("a.txt"));
     stream->Write("Büro");
     EXPECT_EQ(stream->Line(), 1);
     EXPECT_EQ(stream->Column(), 5);
@@ -57,7 +57,7 @@ TEST_F(FileSystem, AStreamForWritingCountsLinesAndColumns) {
 }
 
 TEST_F(FileSystem, AClosedStreamIsNoObjectAnyMore) {
-    const Ref<TextStream> stream = files->CreateTextFile(folder.path("a.txt"));
+    const Ref<TextStream> stream = files->CreateTextFile(folder.file("a.txt"));
     stream->Close();
     expect_error_number(91, [&] { stream->Write("x"); });
     expect_error_number(91, [&] { return stream->Line(); });
@@ -67,7 +67,7 @@ TEST_F(FileSystem, AClosedStreamIsNoObjectAnyMore) {
 
 TEST_F(FileSystem, AStreamForReadingGoesThroughTheText) {
     folder.write("a.txt", "eins\r\nzwei\n\nBüro");
-    const Ref<TextStream> stream = make_object<File>(folder.path("a.txt"))->OpenAsTextStream(1);
+    const Ref<TextStream> stream = make_object<File>(folder.file("a.txt"))->OpenAsTextStream(1);
     EXPECT_EQ(stream->Read(2), "ei");
     EXPECT_EQ(stream->Column(), 3);
     EXPECT_FALSE(stream->AtEndOfLine());
@@ -93,7 +93,7 @@ TEST_F(FileSystem, AStreamForReadingGoesThroughTheText) {
 
 TEST_F(FileSystem, AFileOpensForWritingAnewAndForAppending) {
     folder.write("a.txt", "alt");
-    const Ref<File> file = make_object<File>(folder.path("a.txt"));
+    const Ref<File> file = make_object<File>(folder.file("a.txt"));
     file->OpenAsTextStream(8)->Write("+");
     EXPECT_EQ(folder.read("a.txt"), "alt+");
     file->OpenAsTextStream(2)->Write("neu");
@@ -102,12 +102,12 @@ TEST_F(FileSystem, AFileOpensForWritingAnewAndForAppending) {
 }
 
 TEST_F(FileSystem, CreateFolderGivesTheFolderWithThePathAsComposed) {
-    const std::string path = folder.path() + "\\neu";
+    const std::string path = folder.path().string() + "\\neu";
     const Ref<Folder> made = files->CreateFolder(path + "\\");
     EXPECT_TRUE(folder.has("neu"));
     EXPECT_EQ(made->Path(), path);
     EXPECT_EQ(made->Name(), "neu");
-    EXPECT_EQ(made->ParentFolder()->Path(), folder.path());
+    EXPECT_EQ(made->ParentFolder()->Path(), folder.path().string());
     EXPECT_NEAR(made->DateCreated().days, now().days, 1.0 / 1440);
     EXPECT_NEAR(made->DateLastModified().days, now().days, 1.0 / 1440);
     expect_error_number(58, [&] { files->CreateFolder(path); });
@@ -118,16 +118,16 @@ TEST_F(FileSystem, AFolderShowsItsFilesAndFolders) {
     folder.write("a.txt", "123");
     folder.write("b.txt", "4567");
     folder.write("deep/c.txt", "8");
-    const Ref<Folder> top = make_object<Folder>(folder.path());
+    const Ref<Folder> top = make_object<Folder>(folder.path().string());
     EXPECT_EQ(top->Size(), 8);
     EXPECT_EQ(top->Files()->Count(), 2);
     EXPECT_EQ(top->SubFolders()->Count(), 1);
-    EXPECT_EQ(top->SubFolders()->Item(1)->Path(), folder.path("deep"));
+    EXPECT_EQ(top->SubFolders()->Item(1)->Path(), folder.file("deep"));
     const Ref<File> file = top->Files()->Item("b.txt");
     EXPECT_EQ(file->Name(), "b.txt");
-    EXPECT_EQ(file->Path(), folder.path("b.txt"));
+    EXPECT_EQ(file->Path(), folder.file("b.txt"));
     EXPECT_EQ(file->Size(), 4);
-    EXPECT_EQ(file->ParentFolder()->Path(), folder.path());
+    EXPECT_EQ(file->ParentFolder()->Path(), folder.path().string());
     std::set<std::string> names;
     for (std::int32_t i = 1; i <= 2; ++i) {
         names.insert(top->Files()->Item(i)->Name());
@@ -148,34 +148,34 @@ TEST_F(FileSystem, ARootHasNoParent) {
 
 TEST_F(FileSystem, ExistenceTellsFilesFromFolders) {
     folder.write("a.txt", "");
-    EXPECT_TRUE(files->FileExists(folder.path("a.txt")));
-    EXPECT_FALSE(files->FileExists(folder.path()));
-    EXPECT_FALSE(files->FileExists(folder.path("*.txt")));
-    EXPECT_TRUE(files->FolderExists(folder.path()));
-    EXPECT_FALSE(files->FolderExists(folder.path("a.txt")));
+    EXPECT_TRUE(files->FileExists(folder.file("a.txt")));
+    EXPECT_FALSE(files->FileExists(folder.path().string()));
+    EXPECT_FALSE(files->FileExists(folder.file("*.txt")));
+    EXPECT_TRUE(files->FolderExists(folder.path().string()));
+    EXPECT_FALSE(files->FolderExists(folder.file("a.txt")));
     EXPECT_FALSE(files->FolderExists(""));
 }
 
 TEST_F(FileSystem, CopyMoveAndDeleteWorkByNameOfTheOperation) {
     folder.write("a.txt", "x");
     Object& object = *files;
-    object.call("copyfile", folder.path("a.txt"), folder.path("b.txt"));
+    object.call("copyfile", folder.file("a.txt"), folder.file("b.txt"));
     EXPECT_EQ(folder.read("b.txt"), "x");
     expect_error_number(
-        58, [&] { object.call("CopyFile", folder.path("a.txt"), folder.path("b.txt")); });
-    object.call("CopyFile", folder.path("a.txt"), folder.path("b.txt"), true);
-    object.call("MoveFile", folder.path("b.txt"), folder.path("c.txt"));
-    object.call("CreateFolder", folder.path("d"));
-    object.call("MoveFolder", folder.path("d"), folder.path("e"));
-    object.call("CopyFolder", folder.path("e"), folder.path("f"));
-    object.call("DeleteFolder", folder.path("e"));
-    object.call("DeleteFile", folder.path("?.txt"));
+        58, [&] { object.call("CopyFile", folder.file("a.txt"), folder.file("b.txt")); });
+    object.call("CopyFile", folder.file("a.txt"), folder.file("b.txt"), true);
+    object.call("MoveFile", folder.file("b.txt"), folder.file("c.txt"));
+    object.call("CreateFolder", folder.file("d"));
+    object.call("MoveFolder", folder.file("d"), folder.file("e"));
+    object.call("CopyFolder", folder.file("e"), folder.file("f"));
+    object.call("DeleteFolder", folder.file("e"));
+    object.call("DeleteFile", folder.file("?.txt"));
     EXPECT_FALSE(folder.has("a.txt"));
     EXPECT_FALSE(folder.has("c.txt"));
     EXPECT_FALSE(folder.has("e"));
     EXPECT_TRUE(folder.has("f"));
-    EXPECT_EQ(object.call("FolderExists", folder.path("f")), Variant(true));
-    const Variant made = object.call("CreateTextFile", folder.path("g.txt"));
+    EXPECT_EQ(object.call("FolderExists", folder.file("f")), Variant(true));
+    const Variant made = object.call("CreateTextFile", folder.file("g.txt"));
     made.get<ObjectRef>()->call("WriteLine", "Zeile");
     EXPECT_EQ(folder.read("g.txt"), "Zeile\r\n");
 }

@@ -26,6 +26,9 @@ struct Place {
     std::size_t index;
 };
 
+// "AKT_Create, Argument dateDatum"
+std::string describe(const Place& place);
+
 // Convert the slot in place and refer to the converted value inside it. The errors name operation
 // and argument.
 std::string& text_in(Variant& slot, const Place& place);

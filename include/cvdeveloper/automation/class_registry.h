@@ -1,7 +1,9 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "cvdeveloper/automation/object.h"
 
@@ -27,13 +29,36 @@ using MessageHandler = std::function<void(std::string_view text)>;
 void set_message_handler(MessageHandler handler);
 void show_message(std::string_view text);
 
+// Keeps the messages of this thread to itself for its lifetime: they reach no handler.
+class MessageCapture {
+  public:
+    MessageCapture();
+    MessageCapture(const MessageCapture&) = delete;
+    MessageCapture& operator=(const MessageCapture&) = delete;
+    ~MessageCapture();
+
+    [[nodiscard]] const std::vector<std::string>& messages() const noexcept { return messages_; }
+
+  private:
+    friend void show_message(std::string_view text);
+
+    std::vector<std::string> messages_;
+    MessageCapture* outer_;
+};
+
 // How a script host's interpreter lock is given up while this thread waits. Installed once by a
 // binding; without one, waiting needs nothing.
 struct BlockingHook {
     void* (*release)() = nullptr;
     void (*reacquire)(void*) = nullptr;
+    // Raises an Interrupt where the user has asked to stop. Called while the lock is given up.
+    void (*check_interrupt)() = nullptr;
 };
 void set_blocking_hook(BlockingHook hook);
+
+// Raises an Interrupt where the script host's user has asked to stop. What takes long inside a
+// BlockingScope asks now and then.
+void check_interrupt();
 
 // Gives up the interpreter lock for its lifetime.
 class BlockingScope {

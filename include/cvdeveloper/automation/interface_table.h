@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <optional>
 #include <span>
-#include <string>
 #include <string_view>
 #include <unordered_map>
 #include <variant>
@@ -110,7 +109,8 @@ struct TopicRows {
 // All operations of one class, made from its topics at first use.
 class InterfaceTable {
   public:
-    InterfaceTable(std::string_view class_name, std::string_view help, std::vector<TopicRows> topics);
+    InterfaceTable(std::string_view class_name, std::string_view help,
+                   std::vector<TopicRows> topics);
 
     [[nodiscard]] std::string_view class_name() const noexcept { return class_name_; }
     [[nodiscard]] std::string_view help() const noexcept { return help_; }
@@ -133,7 +133,16 @@ class InterfaceTable {
         const Operation* read = nullptr;  // the method, or the reading of a property
         const Operation* write = nullptr;
     };
-    std::unordered_map<std::string, Rows> by_name_;  // names in lower case
+    // Member names are plain ASCII: folding them needs no tables and no copy.
+    struct FoldedHash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view name) const noexcept;
+    };
+    struct FoldedEqual {
+        using is_transparent = void;
+        bool operator()(std::string_view left, std::string_view right) const noexcept;
+    };
+    std::unordered_map<std::string_view, Rows, FoldedHash, FoldedEqual> by_name_;
 };
 
 }  // namespace cvdeveloper

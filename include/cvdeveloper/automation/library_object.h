@@ -27,6 +27,12 @@ class LibraryObject : public Object {
     [[nodiscard]] virtual std::recursive_mutex* guard() noexcept { return nullptr; }
 };
 
+// Where arguments belong in a row, and the errors of those that belong nowhere: every way in that
+// places arguments itself raises these.
+std::size_t place_of_argument(const Operation& operation, std::string_view name);
+[[noreturn]] void raise_too_many_arguments(const Operation& operation, std::size_t given);
+[[noreturn]] void raise_given_twice(const Operation& operation, std::string_view name);
+
 // Holds a guard; a wait for it gives up the interpreter lock.
 class GuardLock {
   public:

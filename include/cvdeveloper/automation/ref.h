@@ -8,6 +8,17 @@
 
 namespace cvdeveloper {
 
+class RefCounted;
+
+// Is told the objects that another one owns.
+class OwnedVisitor {
+  public:
+    virtual void visit(const RefCounted* object) = 0;  // may be nothing
+
+  protected:
+    ~OwnedVisitor() = default;
+};
+
 // What a Ref points to: counts its owners, atomically, and goes with the last one.
 class RefCounted {
   public:
@@ -23,6 +34,10 @@ class RefCounted {
     [[nodiscard]] std::uint32_t owners() const noexcept {
         return owners_.load(std::memory_order_relaxed);
     }
+
+    // Tells each object that this one owns, once for each share it has in it. A script host's
+    // garbage collector finds circles by it; what is not told is never collected, nothing worse.
+    virtual void visit_owned(OwnedVisitor& visitor) const;
 
   protected:
     RefCounted() = default;

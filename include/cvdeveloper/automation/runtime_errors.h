@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string_view>
 
 namespace cvdeveloper {
@@ -39,5 +40,9 @@ std::string_view text_of(RuntimeError error) noexcept;
 
 // Raises the error with its text; a detail ("AKT_Create, Argument dateDatum") follows in brackets.
 [[noreturn]] void raise(RuntimeError error, std::string_view detail = {});
+
+// Error 438 for "Application.AKT_Creat", with the nearest of the names that there are.
+[[noreturn]] void raise_no_such_member(std::string_view class_name, std::string_view member,
+                                       std::span<const std::string_view> names);
 
 }  // namespace cvdeveloper

@@ -45,6 +45,8 @@ class Session final : public RefCounted {
     void keep_folder(std::string folder) { folder_ = std::move(folder); }
     void attach(enumInitType kind);
 
+    void visit_owned(OwnedVisitor& visitor) const override;
+
     bool sql_log = false;  // FlagSqlLog
     std::string log_path;  // LogPath
     std::optional<std::string> database_password;
@@ -95,6 +97,7 @@ class SessionObject : public LibraryObject {
     [[nodiscard]] Session& session() const noexcept { return *session_; }
     [[nodiscard]] const Ref<Session>& shared_session() const noexcept { return session_; }
     [[nodiscard]] std::recursive_mutex* guard() noexcept override { return &session_->guard; }
+    void visit_owned(OwnedVisitor& visitor) const override { visitor.visit(session_.get()); }
 
   private:
     Ref<Session> session_;

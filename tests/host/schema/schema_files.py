@@ -9,6 +9,8 @@ import pytest
 
 FOLDER = pathlib.Path(__file__).parents[3] / "host" / "schema"
 MAIN = ["AKT", "OBJ", "AD", "ANF", "AKTEN", "Projekte", "VERTRÄGE", "Details"]
+# The column of each detail table that names the record, as the schema spells it.
+OWNER = {main: main.upper() + "_DSN" for main in MAIN} | {"VERTRÄGE": "Verträge_Dsn"}
 EPOCH = datetime.datetime(1899, 12, 30)
 
 

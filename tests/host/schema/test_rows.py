@@ -4,7 +4,7 @@ import datetime
 import re
 
 import pytest
-from schema_files import EPOCH, FOLDER, MAIN, columns, fold, read_csv, rows, tables
+from schema_files import EPOCH, FOLDER, MAIN, OWNER, columns, fold, read_csv, rows, tables
 
 # Which table a key column points to, by the end of its name.
 TARGETS = [
@@ -152,7 +152,7 @@ def test_a_record_shows_only_details_of_its_entry_mask(sample, main):
     for mask in filter(None, mask_of.values()):
         assert masks[mask][main.lower()] == 1, f"{masks[mask]['Name']} is not offered for {main}"
     for row in rows(sample, main.upper() + "DET"):
-        assert (mask_of[row[main.upper() + "_DSN"]], row["FldArt_DSN"]) in shown, row["DSN"]
+        assert (mask_of[row[OWNER[main]]], row["FldArt_DSN"]) in shown, row["DSN"]
 
 
 @pytest.mark.parametrize("main", MAIN)

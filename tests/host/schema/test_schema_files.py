@@ -3,7 +3,7 @@
 import re
 
 import pytest
-from schema_files import FOLDER, MAIN, columns, fold, tables
+from schema_files import FOLDER, MAIN, OWNER, columns, fold, tables
 
 # What the library reads or writes, table by table.
 LIBRARY = {
@@ -59,7 +59,7 @@ LIBRARY |= {
     "ANFDET": DETAIL + " ANF_DSN",
     "AKTENDET": DETAIL + " AKTEN_DSN",
     "PROJEKTEDET": DETAIL + " Projekte_DSN",
-    "VERTRÄGEDET": DETAIL + " VERTRÄGE_DSN",
+    "VERTRÄGEDET": DETAIL + " Verträge_DSN",
     "DETAILSDET": DETAIL + " Details_DSN",
 }
 
@@ -95,6 +95,15 @@ def test_what_the_library_reads_or_writes_exists(base, table):
     have = {fold(c["name"]) for c in columns(base, table)}
     assert have, f"no table {table}"
     assert {fold(name) for name in LIBRARY[table].split()} <= have
+
+
+def test_columns_with_umlauts_are_spelled_one_way(base):
+    """The database folds the case of ASCII letters only."""
+    spellings = {}
+    for table in tables(base):
+        for column in columns(base, table):
+            spellings.setdefault(fold(column["name"]), set()).add(column["name"])
+    assert not [names for name, names in spellings.items() if len(names) > 1 and not name.isascii()]
 
 
 def test_texts_that_the_library_writes_fit_their_columns(base):
@@ -165,7 +174,7 @@ def test_rows_fit_the_widest_row_of_a_server_database(base):
         *[f"SELECT * FROM {t.upper()}MKM WHERE (link_dsn=?) AND (mkm_dsn=?)" for t in MAIN],
         *[
             f"SELECT {t.upper()}DET.* FROM {t} INNER JOIN {t.upper()}DET"
-            f" ON {t}.dsn = {t.upper()}DET.{t.upper()}_dsn"
+            f" ON {t}.dsn = {t.upper()}DET.{OWNER[t]}"
             f" WHERE ({t}.DSN=?) AND ({t.upper()}DET.FLDART_DSN=?) ORDER BY {t.upper()}DET.DSN"
             for t in MAIN
         ],

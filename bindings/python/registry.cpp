@@ -1,0 +1,156 @@
+#include "registry.h"
+
+#include "cvdeveloper/automation/class_registry.h"
+#include "cvdeveloper/automation/conversions.h"
+#include "cvdeveloper/automation/runtime_errors.h"
+#include "errors.h"
+#include "host/folder/create_folder.h"
+#include "host/register.h"
+#include "library_types.h"
+#include "python_object.h"
+#include "texts.h"
+#include "values.h"
+
+namespace cvdeveloper::python {
+
+namespace {
+
+std::string_view class_name_of(PyObject* name) {
+    const auto text = PyUnicode_Check(name) ? view_of_python(name) : std::nullopt;
+    if (!text) {
+        raise(RuntimeError::TypeMismatch, "Klassenname");
+    }
+    return *text;
+}
+
+Ref<PythonObject> callable(State& state, PyObject* object) {
+    if (PyCallable_Check(object) == 0) {
+        raise(RuntimeError::TypeMismatch, "erwartet wird etwas Aufrufbares");
+    }
+    return make_object<PythonObject>(state.shared_from_this(), object);
+}
+
+PyObject* register_class_from_python(PyObject* module, PyObject* arguments) {
+    State& state = state_of(module);
+    return guarded(state, [&] {
+        PyObject* name = nullptr;
+        PyObject* factory = nullptr;
+        if (PyArg_ParseTuple(arguments, "OO:register_class", &name, &factory) == 0) {
+            throw PythonError{};
+        }
+        if (factory == Py_None) {
+            register_class(class_name_of(name), {});
+        } else {
+            register_class(class_name_of(name), [made_by = callable(state, factory)] {
+                return to_object(made_by->call_itself({}));
+            });
+        }
+        return Owned::borrow(Py_None);
+    });
+}
+
+PyObject* register_active_object_from_python(PyObject* module, PyObject* arguments) {
+    State& state = state_of(module);
+    return guarded(state, [&] {
+        PyObject* name = nullptr;
+        PyObject* object = nullptr;
+        if (PyArg_ParseTuple(arguments, "OO:register_active_object", &name, &object) == 0) {
+            throw PythonError{};
+        }
+        try {
+            register_active_object(class_name_of(name), object_of_python(state, object));
+        } catch (const NoSuchValue& failure) {
+            raise(failure.error, "register_active_object");
+        }
+        return Owned::borrow(Py_None);
+    });
+}
+
+PyObject* reset_registry(PyObject* module, PyObject*) {
+    return guarded(state_of(module), [] {
+        clear_registry();
+        register_own_classes();
+        return Owned::borrow(Py_None);
+    });
+}
+
+PyObject* set_message_handler_from_python(PyObject* module, PyObject* handler) {
+    State& state = state_of(module);
+    return guarded(state, [&] {
+        if (handler == Py_None) {
+            set_message_handler({});
+        } else {
+            set_message_handler([shown_by = callable(state, handler)](std::string_view text) {
+                Variant message(text);
+                shown_by->call_itself({.values = {&message, 1}});
+            });
+        }
+        return Owned::borrow(Py_None);
+    });
+}
+
+// Calls the function and gives back the messages that it would have shown.
+PyObject* messages_of(PyObject* module, PyObject* function) {
+    return guarded(state_of(module), [&] {
+        const MessageCapture capture;
+        const Owned result = checked(PyObject_CallNoArgs(function));
+        Owned list = checked(PyList_New(0));
+        for (const std::string& message : capture.messages()) {
+            check(PyList_Append(list.get(), text_to_python(message).get()));
+        }
+        return list;
+    });
+}
+
+PyObject* create_host_folder(PyObject* module, PyObject* arguments) {
+    return guarded(state_of(module), [&] {
+        const char* folder = nullptr;
+        int sample = 0;
+        const char* user = nullptr;
+        const char* password = nullptr;
+        if (PyArg_ParseTuple(arguments, "spss:create", &folder, &sample, &user, &password) == 0) {
+            throw PythonError{};
+        }
+        standalone::create_folder(folder,
+                                  {.sample = sample != 0, .user = user, .password = password});
+        return Owned::borrow(Py_None);
+    });
+}
+
+// At the interpreter's exit: what the registry keeps must not outlive it.
+PyObject* let_go_of_everything(PyObject* module, PyObject*) {
+    return guarded(state_of(module), [] {
+        clear_registry();
+        set_message_handler({});
+        return Owned::borrow(Py_None);
+    });
+}
+
+}  // namespace
+
+PyMethodDef registry_functions[] = {
+    {"register_class", register_class_from_python, METH_VARARGS,
+     "register_class(progid, factory)\n--\n\n"
+     "Has factory() called whenever the library creates an object of that class name; None takes "
+     "the class out. Names without regard to case."},
+    {"register_active_object", register_active_object_from_python, METH_VARARGS,
+     "register_active_object(progid, obj)\n--\n\n"
+     "Makes obj what the library finds as the running object of that class name; None takes it "
+     "out."},
+    {"reset_registry", reset_registry, METH_NOARGS,
+     "reset_registry()\n--\n\n"
+     "Back to what importing the module registered: its classes and no running object."},
+    {"set_message_handler", set_message_handler_from_python, METH_O,
+     "set_message_handler(handler)\n--\n\n"
+     "Has handler(text) called for each message box; None restores standard error."},
+    {"_create_host_folder", create_host_folder, METH_VARARGS, nullptr},
+    {"_messages_of", messages_of, METH_O, nullptr},
+    {"_let_go_of_everything", let_go_of_everything, METH_NOARGS, nullptr},
+    {nullptr, nullptr, 0, nullptr},
+};
+
+void register_own_classes() {
+    standalone::register_standalone_host();
+}
+
+}  // namespace cvdeveloper::python
