@@ -1,6 +1,7 @@
 #include "host/session/connector.h"
 
 #include "host/errors.h"
+#include "host/services/blob.h"
 #include "host/services/db_ini.h"
 #include "host/services/util.h"
 
@@ -15,6 +16,7 @@ HostSession& Connector::session() const {
 
 void Connector::Logon(std::string_view path, std::string_view user, std::string_view password) {
     session_ = HostSession::log_on(path, user, password);
+    blob_ = make_object<standalone::Blob>(session_);
     util_ = make_object<standalone::Util>();
     db_ini_ = make_object<standalone::DbIni>(session_);
 }
@@ -26,7 +28,7 @@ ObjectRef Connector::Util() {
 
 ObjectRef Connector::Blob() {
     session();
-    return nullptr;
+    return blob_;
 }
 
 ObjectRef Connector::DbIni() {

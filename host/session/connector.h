@@ -40,6 +40,7 @@ class Connector final : public LibraryObject, public host::Connector {
 
     Ref<HostSession> session_;
     ObjectRef util_;
+    ObjectRef blob_;
     ObjectRef db_ini_;
 };
 

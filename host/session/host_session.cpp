@@ -40,7 +40,10 @@ Ref<HostSession> HostSession::log_on(std::string_view path, std::string_view use
     HostFolder folder = HostFolder::open(path);
     std::unique_ptr<Database> database = folder.open_database();
     std::string user_key = Users(*database).log_on(user, password);
-    return make_object<HostSession>(std::move(folder), std::move(database), std::move(user_key));
+    const auto session =
+        make_object<HostSession>(std::move(folder), std::move(database), std::move(user_key));
+    session->clean_up();
+    return session;
 }
 
 HostSession::HostSession(HostFolder folder, std::unique_ptr<Database> database,
@@ -52,9 +55,19 @@ HostSession::HostSession(HostFolder folder, std::unique_ptr<Database> database,
       dictionary_(dictionary_of(*database_->catalog())),
       reader_(dictionary_),
       statements_(cached_statements),
-      transactions_(*database_),
+      transactions_(*database_, [this] { attachments_.settle(); }),
+      attachments_(*database_, transactions_, disk_path(folder_.path()) / "Anlagen"),
       writer_(*database_),
       numbers_(*database_, folder_.settings().number_digits) {}
+
+// Nobody is kept from working by what another session has left behind.
+void HostSession::clean_up() {
+    try {
+        attachments_.clean_up();
+    } catch (const AutomationError&) {
+        return;
+    }
+}
 
 RecordSet HostSession::get_record_set(std::string_view sql) {
     const GuardLock lock(guard());
