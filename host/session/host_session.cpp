@@ -163,6 +163,14 @@ RecordSet HostSession::master_data() {
     return run("SELECT * FROM Std", {}, false, false);
 }
 
+std::string HostSession::federal_state() {
+    const GuardLock lock(guard());
+    Rows found(1);
+    database_->prepare("SELECT Bundesland FROM Std LIMIT 1", Author::Host)->query({}, found);
+    return std::string(found.size() == 0 || found[0][0].is_null() ? std::string_view()
+                                                                  : found[0][0].text());
+}
+
 void HostSession::begin_transaction() {
     const GuardLock lock(guard());
     transactions_.begin();

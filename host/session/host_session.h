@@ -38,6 +38,8 @@ class HostSession final : public RefCounted {
     void update_record_set(const RecordSet& record_set);
     RecordSet current_user();
     RecordSet master_data();
+    // Of the office, as its master data name it; "" where they do not.
+    std::string federal_state();
 
     [[nodiscard]] host::UnitOfWork& unit_of_work() noexcept { return transactions_; }
     void begin_transaction();
