@@ -61,8 +61,8 @@ void Blob::DeleteBlobFile(std::string_view blob_key, std::string_view, std::int3
 }
 
 RecordSet Blob::GetBlobInfos(std::string_view link_key) {
-    return session_->get_record_set("SELECT * FROM Blob WHERE uidLINK_DSN=" +
-                                    key_literal(link_key) + " ORDER BY datSaved, DSN");
+    return session_->get_record_set(
+        "SELECT * FROM Blob WHERE uidLINK_DSN=" + key_literal(link_key) + " ORDER BY rowid");
 }
 
 std::string Blob::GetSourceFilename(std::string_view blob_key) {
@@ -107,7 +107,7 @@ const InterfaceTable& Blob::table() const noexcept {
          .kind = OperationKind::Method,
          .binding = bind<&Blob::GetBlobInfos>,
          .parameters = link_parameters,
-         .help = {.what = "Lists a record's attachments, oldest first.",
+         .help = {.what = "Lists a record's attachments in the order they were added.",
                   .result = "A record set with the columns Dsn, uidLINK_DSN, lngTyp, "
                             "strsourcefilename, mail_attachment, dblSize, strSha256, datSaved and "
                             "others.",

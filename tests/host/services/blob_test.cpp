@@ -206,15 +206,18 @@ TEST_F(BlobTest, DeletingTakesRowAndFileAndNeedsTheKeyAlone) {
     expect_consistent();
 }
 
-TEST_F(BlobTest, AttachmentsAreListedForTheirOwnerAlone) {
-    add("a.txt", "eins");
-    add("b.txt", "zwei");
-    blob().SaveBlobFile("x", "SOMEBODY ELSE", link_kind);
-    std::int32_t count = 0;
-    for (const RecordSet rs = blob().GetBlobInfos("OWNER"); !rs.at_end(); rs.move_next()) {
-        ++count;
+TEST_F(BlobTest, AttachmentsAreListedForTheirOwnerAloneInTheOrderTheyCame) {
+    std::vector<std::string> names;
+    for (int i = 0; i < 10; ++i) {
+        names.push_back("link " + std::to_string(i));
+        blob().SaveBlobFile(names.back(), "OWNER", link_kind);
+        blob().SaveBlobFile("x", "SOMEBODY ELSE", link_kind);
     }
-    EXPECT_EQ(count, 2);
+    std::vector<std::string> listed;
+    for (const RecordSet rs = blob().GetBlobInfos("OWNER"); !rs.at_end(); rs.move_next()) {
+        listed.push_back(to_text(rs.value("strsourcefilename")));
+    }
+    EXPECT_EQ(listed, names);
     EXPECT_TRUE(blob().GetBlobInfos("O'Neill").at_end());
 }
 
