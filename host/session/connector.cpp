@@ -1,7 +1,9 @@
 #include "host/session/connector.h"
 
 #include "host/errors.h"
+#include "host/services/blob.h"
 #include "host/services/db_ini.h"
+#include "host/services/progress.h"
 #include "host/services/util.h"
 
 namespace cvdeveloper::standalone {
@@ -15,8 +17,13 @@ HostSession& Connector::session() const {
 
 void Connector::Logon(std::string_view path, std::string_view user, std::string_view password) {
     session_ = HostSession::log_on(path, user, password);
+    blob_ = make_object<standalone::Blob>(session_);
     util_ = make_object<standalone::Util>();
     db_ini_ = make_object<standalone::DbIni>(session_);
+    progress_ = make_object<standalone::Progress>();
+    if (state_) {
+        state_->set(federal_state(session_->federal_state()));
+    }
 }
 
 ObjectRef Connector::Util() {
@@ -26,7 +33,7 @@ ObjectRef Connector::Util() {
 
 ObjectRef Connector::Blob() {
     session();
-    return nullptr;
+    return blob_;
 }
 
 ObjectRef Connector::DbIni() {
@@ -66,7 +73,7 @@ std::string Connector::ParseAndFill(RecordSet&, std::int16_t, bool&) {
 
 ObjectRef Connector::Progress() {
     session();
-    return nullptr;
+    return progress_;
 }
 
 host::UnitOfWork* Connector::unit_of_work() {
@@ -164,7 +171,7 @@ const InterfaceTable& Connector::table() const noexcept {
          .kind = OperationKind::Get,
          .binding = bind<&Connector::Progress>,
          .parameters = {},
-         .help = {.what = "A progress display."}},
+         .help = {.what = "The connector's progress bar, always the same one."}},
         {.id = 11,
          .name = "BeginTrans",
          .kind = OperationKind::Method,

@@ -1,7 +1,11 @@
 #pragma once
 
+#include <memory>
+#include <utility>
+
 #include "cvdeveloper/automation/library_object.h"
 #include "cvdeveloper/host/session.h"
+#include "host/services/office_state.h"
 #include "host/session/host_session.h"
 
 namespace cvdeveloper::standalone {
@@ -11,6 +15,9 @@ namespace cvdeveloper::standalone {
 class Connector final : public LibraryObject, public host::Connector {
   public:
     static constexpr std::string_view automation_name = "CVConnector.Application";
+
+    // Each log-on tells the office's federal state, where somebody wants to know it.
+    explicit Connector(std::shared_ptr<OfficeState> state = nullptr) : state_(std::move(state)) {}
 
     // A log-on that fails leaves an earlier one in place.
     void Logon(std::string_view path, std::string_view user, std::string_view password) override;
@@ -38,9 +45,12 @@ class Connector final : public LibraryObject, public host::Connector {
     RecordSet get_record_set(std::string_view sql, const Variant& password);
     void update_record_set(RecordSet& rs, const Variant& password);
 
+    std::shared_ptr<OfficeState> state_;
     Ref<HostSession> session_;
     ObjectRef util_;
+    ObjectRef blob_;
     ObjectRef db_ini_;
+    ObjectRef progress_;
 };
 
 }  // namespace cvdeveloper::standalone

@@ -1,0 +1,33 @@
+#include "host/new_key.h"
+
+#include <sodium.h>
+
+#include <array>
+#include <string_view>
+
+#include "host/errors.h"
+
+namespace cvdeveloper::standalone {
+
+std::string new_key() {
+    if (sodium_init() < 0) {
+        raise(HostError::Database, "Der Zufallsgenerator steht nicht zur Verfügung.");
+    }
+    std::array<unsigned char, 16> bytes{};
+    randombytes_buf(bytes.data(), bytes.size());
+    bytes[6] = static_cast<unsigned char>((bytes[6] & 0x0FU) | 0x40U);
+    bytes[8] = static_cast<unsigned char>((bytes[8] & 0x3FU) | 0x80U);
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string key;
+    key.reserve(36);
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        if (i == 4 || i == 6 || i == 8 || i == 10) {
+            key += '-';
+        }
+        key += digits[bytes[i] >> 4U];
+        key += digits[bytes[i] & 0x0FU];
+    }
+    return key;
+}
+
+}  // namespace cvdeveloper::standalone
