@@ -6,6 +6,7 @@
 #include "cvdeveloper/automation/library_object.h"
 #include "cvdeveloper/automation/runtime_errors.h"
 #include "host/errors.h"
+#include "host/rules/address_rule.h"
 #include "host/session/users.h"
 
 namespace cvdeveloper::standalone {
@@ -53,7 +54,7 @@ HostSession::HostSession(HostFolder folder, std::unique_ptr<Database> database,
       reader_(dictionary_),
       statements_(cached_statements),
       transactions_(*database_),
-      writer_(*database_),
+      writer_(*database_, table_rules(*database_)),
       numbers_(*database_, folder_.settings().number_digits) {}
 
 RecordSet HostSession::get_record_set(std::string_view sql) {
@@ -134,9 +135,9 @@ void HostSession::update_record_set(const RecordSet& record_set) {
     if (rows->changes().empty()) {
         return;
     }
-    std::vector<std::int64_t> versions;
-    transactions_.run(rows->changes().size() == 1, [&] { versions = writer_.write(*rows); });
-    rows->mark_saved(versions);
+    SavedChanges saved;
+    transactions_.run(writer_.is_single_statement(*rows), [&] { saved = writer_.write(*rows); });
+    rows->mark_saved(saved);
 }
 
 RecordSet HostSession::current_user() {
