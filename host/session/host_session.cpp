@@ -48,9 +48,10 @@ HostSession::HostSession(HostFolder folder, std::unique_ptr<Database> database,
                          std::string user_key)
     : folder_(std::move(folder)),
       database_(std::move(database)),
+      catalog_(database_->catalog()),
       user_key_(std::move(user_key)),
       owner_(std::make_shared<RecordSetOwner>()),
-      dictionary_(dictionary_of(*database_->catalog())),
+      dictionary_(dictionary_of(*catalog_)),
       reader_(dictionary_),
       statements_(cached_statements),
       transactions_(*database_),
@@ -94,7 +95,7 @@ StatementCache<HostSession::Read>::Entry HostSession::prepare(std::string_view t
     if (statement->parameter_count() != values) {
         raise(HostError::StatementRefused, "Platzhalter ohne Wert sind nicht erlaubt.");
     }
-    Read read{.shape = std::make_shared<Shape>(statement->columns(), database_->catalog(), owner_),
+    Read read{.shape = std::make_shared<Shape>(statement->columns(), catalog_, owner_),
               .counters = {}};
     for (std::size_t i = 0; i < read.shape->columns().size(); ++i) {
         if (is_counter(read.shape->columns()[i])) {
