@@ -47,7 +47,7 @@ def test_a_started_application_is_the_running_one(folder):
     app = cvdeveloper.Application()
     app.Corvanta_InitApplication()
     assert app.Corvanta_InitType == cvdeveloper.INITTYPE_APPLICATION
-    assert app.Corvanta_Folder == folder
+    assert app.Corvanta_Folder() == folder
     assert app.Corvanta_Application.Folder == folder
 
 
@@ -81,7 +81,7 @@ def test_detail_values_are_read_and_what_cannot_be_read_comes_back(app):
     )
     assert app.oBase.CV_ParseAndFill(details, 0) == "Wohnfläche: groß"
     app.oBase.CV_UpdateRecordset(details)
-    found, low, high = False, cvdeveloper.Ref(), cvdeveloper.Ref()
+    low, high = cvdeveloper.Ref(), cvdeveloper.Ref()
     found = app.oBase.Det_GetNumValue("ANF", anfrage, app.FldArt_FindDsnByName("Zimmer"), low, high)
     assert (found, low.value, high.value) == (True, 3.0, 4.0)
 
