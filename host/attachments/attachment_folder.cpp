@@ -5,7 +5,7 @@
 #include "cvdeveloper/automation/error.h"
 #include "cvdeveloper/automation/runtime_errors.h"
 #include "host/errors.h"
-#include "host/new_key.h"
+#include "host/keys.h"
 #include "platform/posix/file_errors.h"
 
 namespace cvdeveloper::standalone {

@@ -8,7 +8,7 @@
 #include "cvdeveloper/enumerations.h"
 #include "host/attachments/opened_copy.h"
 #include "host/errors.h"
-#include "host/new_key.h"
+#include "host/keys.h"
 #include "platform/clock.h"
 #include "platform/text.h"
 

@@ -6,6 +6,7 @@
 #include "cvdeveloper/automation/library_object.h"
 #include "cvdeveloper/automation/runtime_errors.h"
 #include "host/errors.h"
+#include "host/rules/address_rule.h"
 #include "host/session/users.h"
 
 namespace cvdeveloper::standalone {
@@ -50,14 +51,15 @@ HostSession::HostSession(HostFolder folder, std::unique_ptr<Database> database,
                          std::string user_key)
     : folder_(std::move(folder)),
       database_(std::move(database)),
+      catalog_(database_->catalog()),
       user_key_(std::move(user_key)),
       owner_(std::make_shared<RecordSetOwner>()),
-      dictionary_(dictionary_of(*database_->catalog())),
+      dictionary_(dictionary_of(*catalog_)),
       reader_(dictionary_),
       statements_(cached_statements),
       transactions_(*database_, [this] { attachments_.settle(); }),
       attachments_(*database_, transactions_, disk_path(folder_.path()) / "Anlagen"),
-      writer_(*database_),
+      writer_(*database_, table_rules(*database_)),
       numbers_(*database_, folder_.settings().number_digits) {}
 
 // Nobody is kept from working by what another session has left behind.
@@ -106,7 +108,7 @@ StatementCache<HostSession::Read>::Entry HostSession::prepare(std::string_view t
     if (statement->parameter_count() != values) {
         raise(HostError::StatementRefused, "Platzhalter ohne Wert sind nicht erlaubt.");
     }
-    Read read{.shape = std::make_shared<Shape>(statement->columns(), database_->catalog(), owner_),
+    Read read{.shape = std::make_shared<Shape>(statement->columns(), catalog_, owner_),
               .counters = {}};
     for (std::size_t i = 0; i < read.shape->columns().size(); ++i) {
         if (is_counter(read.shape->columns()[i])) {
@@ -147,9 +149,9 @@ void HostSession::update_record_set(const RecordSet& record_set) {
     if (rows->changes().empty()) {
         return;
     }
-    std::vector<std::int64_t> versions;
-    transactions_.run(rows->changes().size() == 1, [&] { versions = writer_.write(*rows); });
-    rows->mark_saved(versions);
+    SavedChanges saved;
+    transactions_.run(writer_.is_single_statement(*rows), [&] { saved = writer_.write(*rows); });
+    rows->mark_saved(saved);
 }
 
 RecordSet HostSession::current_user() {

@@ -29,6 +29,7 @@ class HostSession final : public RefCounted {
     HostSession(HostFolder folder, std::unique_ptr<Database> database, std::string user_key);
 
     [[nodiscard]] const HostFolder& folder() const noexcept { return folder_; }
+    [[nodiscard]] const Catalog& catalog() const noexcept { return *catalog_; }
     [[nodiscard]] std::recursive_mutex* guard() const noexcept { return &owner_->guard; }
 
     // Runs one read-only SELECT. Errors: StatementRefused and others, with the statement's
@@ -76,6 +77,7 @@ class HostSession final : public RefCounted {
 
     HostFolder folder_;
     std::unique_ptr<Database> database_;
+    std::shared_ptr<const Catalog> catalog_;
     std::string user_key_;
     std::shared_ptr<RecordSetOwner> owner_;
     sql::Dictionary dictionary_;
