@@ -102,11 +102,6 @@ int traverse_descriptor(PyObject* self, visitproc visit, void* arg) {
     return 0;
 }
 
-int clear_descriptor(PyObject* self) {
-    descriptor(self).owner = Owned();
-    return 0;
-}
-
 PyObject* represent_descriptor(PyObject* self) {
     const RowDescriptor& row = descriptor(self);
     return guarded(*row.state, [&] {
@@ -118,7 +113,7 @@ PyObject* represent_descriptor(PyObject* self) {
 }
 
 Object& target_of(const RowDescriptor& self, PyObject* instance) {
-    if (!Py_IS_TYPE(instance, self.owner.type())) {
+    if (!PyObject_TypeCheck(instance, self.owner.type())) {
         raise(RuntimeError::ObjectRequired, self.row().name);
     }
     return object_of(instance);

@@ -65,7 +65,10 @@ def test_writing_changes_one_part(phones, name, entry):
 def test_writing_a_salutation_is_error_424_and_changes_nothing(salutations, name):
     with pytest.raises(cvdeveloper.AutomationError) as caught:
         getattr(salutations, name)[1] = "x"
-    assert (caught.value.number, caught.value.description) == (424, "Objekt erforderlich")
+    assert (caught.value.number, caught.value.description) == (
+        424,
+        "Objekt erforderlich (SetItem)",
+    )
     assert salutations.AsString == SALUTATIONS
 
 

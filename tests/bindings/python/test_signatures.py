@@ -78,13 +78,13 @@ def test_enumerations_stand_in_signatures():
     assert signature.parameters["enumEART"].default == 0
 
 
-def test_every_operation_has_a_signature_and_a_text():
+def test_every_operation_has_a_text_and_every_method_a_signature():
     for described in cvdeveloper._interface()["classes"]:
         kind = getattr(cvdeveloper, described["name"])
         for row in (row for topic in described["topics"] for row in topic["operations"]):
             member = getattr(kind, row["name"])
             assert len(member.__doc__) > 10
-            if row["kind"] != "put":
+            if row["kind"] == "method":
                 names = list(inspect.signature(member).parameters)
                 assert names == ["self", *(p["name"] for p in row["parameters"])]
 
