@@ -167,6 +167,7 @@ Connection::Running::Running(Connection& connection, Author author)
     : connection_(connection), before_(connection.access_.author) {
     connection.access_.author = author;
     connection.interrupted_ = false;
+    connection.users_interrupt_ = nullptr;
 }
 
 Connection::Running::~Running() {
@@ -180,10 +181,19 @@ void Connection::give_up_interpreter_lock() {
     }
 }
 
+bool Connection::asked_to_stop() noexcept {
+    try {
+        check_interrupt();
+    } catch (const Interrupt&) {
+        users_interrupt_ = std::current_exception();
+    }
+    return interrupted_ || users_interrupt_ != nullptr;
+}
+
 int Connection::on_progress(void* self) {
     auto& connection = *static_cast<Connection*>(self);
     connection.give_up_interpreter_lock();
-    return connection.interrupted_ ? 1 : 0;
+    return connection.asked_to_stop() ? 1 : 0;
 }
 
 int Connection::on_busy(void* self, int attempts) {
@@ -195,7 +205,7 @@ int Connection::on_busy(void* self, int attempts) {
     if (attempts == 0) {
         connection.waiting_since_ = present;
     }
-    if (connection.interrupted_ ||
+    if (connection.asked_to_stop() ||
         present - connection.waiting_since_ >= connection.options_.timeout) {
         return 0;
     }
@@ -206,6 +216,9 @@ int Connection::on_busy(void* self, int attempts) {
 
 void Connection::raise_failure(int code) const {
     const std::string message = sqlite3_errmsg(handle_.get());
+    if (users_interrupt_ != nullptr) {
+        std::rethrow_exception(users_interrupt_);
+    }
     if (interrupted_) {
         throw Interrupt();
     }

@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <exception>
 #include <memory>
 #include <optional>
 #include <string>
@@ -71,6 +72,9 @@ class Connection final : public Database {
     };
     void give_up_interpreter_lock();
 
+    // Whether the statement is to stop: somebody called interrupt(), or the user wants it.
+    bool asked_to_stop() noexcept;
+
     static int on_progress(void* self);
     static int on_busy(void* self, int attempts);
     [[nodiscard]] std::unique_ptr<Statement> prepare_own(std::string_view text);
@@ -81,6 +85,7 @@ class Connection final : public Database {
     Access access_;
     std::shared_ptr<const Catalog> catalog_;
     std::atomic<bool> interrupted_ = false;
+    std::exception_ptr users_interrupt_;  // what the script host has to say about it
     std::optional<BlockingScope> long_run_;
     std::chrono::steady_clock::time_point waiting_since_;
 

@@ -95,36 +95,30 @@ void PreparedStatement::query(std::span<const Value> values, Rows& rows) {
 }
 
 void PreparedStatement::read_row(Rows& rows) const {
-    sqlite3_stmt* const statement = handle_.get();
     int column = 0;
     for (Cell& cell : rows.append()) {
-        switch (sqlite3_column_type(statement, column)) {
+        // One look-up a field; safe, because the connection belongs to one thread at a time.
+        sqlite3_value* const value = sqlite3_column_value(handle_.get(), column++);
+        switch (sqlite3_value_type(value)) {
             case SQLITE_INTEGER:
-                Rows::set_integer(cell, sqlite3_column_int64(statement, column));
+                Rows::set_integer(cell, sqlite3_value_int64(value));
                 break;
             case SQLITE_FLOAT:
-                Rows::set_double(cell, sqlite3_column_double(statement, column));
+                Rows::set_double(cell, sqlite3_value_double(value));
                 break;
             case SQLITE_TEXT: {
-                const auto* text =
-                    reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-                rows.set_text(
-                    cell,
-                    {text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column))});
+                const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+                rows.set_text(cell, {text, static_cast<std::size_t>(sqlite3_value_bytes(value))});
                 break;
             }
             case SQLITE_BLOB: {
-                const auto* bytes =
-                    static_cast<const std::byte*>(sqlite3_column_blob(statement, column));
-                rows.set_bytes(
-                    cell,
-                    {bytes, static_cast<std::size_t>(sqlite3_column_bytes(statement, column))});
+                const auto* bytes = static_cast<const std::byte*>(sqlite3_value_blob(value));
+                rows.set_bytes(cell, {bytes, static_cast<std::size_t>(sqlite3_value_bytes(value))});
                 break;
             }
             default:
                 break;
         }
-        ++column;
     }
 }
 
