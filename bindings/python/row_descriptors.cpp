@@ -55,7 +55,9 @@ Owned& type_of_descriptor(State& state, const Operation* read) {
     if (read != nullptr && read->kind == OperationKind::Method) {
         return state.method_type;
     }
-    return read != nullptr && !read->parameters.empty() ? state.indexed_type : state.attribute_type;
+    // Where the index may be left out, the attribute is the whole: rs.Fields, rs.Fields["DSN"].
+    return read != nullptr && read->required_arguments() > 0 ? state.indexed_type
+                                                             : state.attribute_type;
 }
 
 }  // namespace

@@ -69,7 +69,7 @@ def log_lines(tmp_path):
     def read():
         log = tmp_path / "cvDeveloper.log"
         text = log.read_text(encoding="utf-8") if log.exists() else ""
-        return [line.split(" - ", 1)[1] for line in text.splitlines()]
+        return [line.split(" - ", 1)[-1].strip(" ") for line in text.splitlines()]
 
     return read
 

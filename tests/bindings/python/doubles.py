@@ -92,6 +92,9 @@ class Util:
         self.made += 1
         return f"G{self.made}"
 
+    def Kill(self, path):
+        """Nothing is there to be deleted."""
+
     def SqlUid(self, key):
         return f"'{key}'"
 
