@@ -105,6 +105,8 @@ void DiagnosticLog::DoLog(std::string_view strProcName, std::string_view strMess
         if (!files::append_line(file, line)) {
             files::append_line(file, std::string(first_units(line, units_of_second_try)) + " ...");
         }
+    } catch (const Interrupt&) {
+        throw;
     } catch (const std::exception&) {
         return;  // a log that fails must not fail what is logged
     }
