@@ -1,6 +1,5 @@
 #pragma once
 
-#include "cvdeveloper/host/session.h"
 #include "host/database/database.h"
 
 namespace cvdeveloper::standalone {
@@ -8,12 +7,12 @@ namespace cvdeveloper::standalone {
 // When what is written gets committed. A unit of work begins a transaction with its first write
 // and commits it once at its outermost end, also after an error: what was written before stays.
 // In a caller's own transaction units do nothing.
-class Transactions final : public host::UnitOfWork {
+class Transactions final {
   public:
     explicit Transactions(Database& database) noexcept : database_(database) {}
 
-    void enter() override;
-    void leave() override;
+    void enter() noexcept { ++depth_; }
+    void leave();
 
     // Errors: Transaction for a second one, or an end without a beginning.
     void begin();

@@ -16,6 +16,9 @@ namespace {
 // So many steps of the database's machine pass before a statement counts as long: some 0.2 ms.
 constexpr int steps_of_a_short_statement = 10000;
 
+// How often a long statement asks whether the user wants to stop it.
+constexpr std::chrono::milliseconds pause_between_checks(50);
+
 // Nothing but white space and semicolons may follow a statement.
 bool is_blank(std::string_view text) noexcept {
     return text.find_first_not_of(" \t\r\n\f\v;") == std::string_view::npos;
@@ -167,6 +170,7 @@ Connection::Running::Running(Connection& connection, Author author)
     : connection_(connection), before_(connection.access_.author) {
     connection.access_.author = author;
     connection.interrupted_ = false;
+    connection.stop_ = nullptr;
 }
 
 Connection::Running::~Running() {
@@ -183,7 +187,21 @@ void Connection::give_up_interpreter_lock() {
 int Connection::on_progress(void* self) {
     auto& connection = *static_cast<Connection*>(self);
     connection.give_up_interpreter_lock();
-    return connection.interrupted_ ? 1 : 0;
+    return connection.must_stop() ? 1 : 0;
+}
+
+bool Connection::must_stop() {
+    if (const auto present = std::chrono::steady_clock::now();
+        present - last_check_ >= pause_between_checks) {
+        last_check_ = present;
+        try {
+            check_interrupt();
+        } catch (const Interrupt&) {
+            // Nothing may be thrown through the database: raise_failure throws it on.
+            stop_ = std::current_exception();
+        }
+    }
+    return interrupted_ || stop_ != nullptr;
 }
 
 int Connection::on_busy(void* self, int attempts) {
@@ -195,7 +213,7 @@ int Connection::on_busy(void* self, int attempts) {
     if (attempts == 0) {
         connection.waiting_since_ = present;
     }
-    if (connection.interrupted_ ||
+    if (connection.must_stop() ||
         present - connection.waiting_since_ >= connection.options_.timeout) {
         return 0;
     }
@@ -204,8 +222,11 @@ int Connection::on_busy(void* self, int attempts) {
     return 1;
 }
 
-void Connection::raise_failure(int code) const {
+void Connection::raise_failure(int code) {
     const std::string message = sqlite3_errmsg(handle_.get());
+    if (stop_ != nullptr) {
+        std::rethrow_exception(std::exchange(stop_, nullptr));
+    }
     if (interrupted_) {
         throw Interrupt();
     }

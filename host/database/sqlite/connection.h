@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <exception>
 #include <memory>
 #include <optional>
 #include <string>
@@ -70,11 +71,13 @@ class Connection final : public Database {
         Author before_;
     };
     void give_up_interpreter_lock();
+    // Whether the user or another thread has asked to stop.
+    [[nodiscard]] bool must_stop();
 
     static int on_progress(void* self);
     static int on_busy(void* self, int attempts);
     [[nodiscard]] std::unique_ptr<Statement> prepare_own(std::string_view text);
-    [[noreturn]] void raise_failure(int code) const;
+    [[noreturn]] void raise_failure(int code);
 
     std::unique_ptr<sqlite3, Close> handle_;
     OpenOptions options_;
@@ -83,6 +86,8 @@ class Connection final : public Database {
     std::atomic<bool> interrupted_ = false;
     std::optional<BlockingScope> long_run_;
     std::chrono::steady_clock::time_point waiting_since_;
+    std::chrono::steady_clock::time_point last_check_;
+    std::exception_ptr stop_;  // the interrupt that a callback of the database has met
 
     std::unique_ptr<Statement> begin_;
     std::unique_ptr<Statement> commit_;
