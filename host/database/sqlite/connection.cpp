@@ -170,7 +170,7 @@ Connection::Running::Running(Connection& connection, Author author)
     : connection_(connection), before_(connection.access_.author) {
     connection.access_.author = author;
     connection.interrupted_ = false;
-    connection.stop_ = nullptr;
+    connection.users_interrupt_ = nullptr;
 }
 
 Connection::Running::~Running() {
@@ -187,10 +187,10 @@ void Connection::give_up_interpreter_lock() {
 int Connection::on_progress(void* self) {
     auto& connection = *static_cast<Connection*>(self);
     connection.give_up_interpreter_lock();
-    return connection.must_stop() ? 1 : 0;
+    return connection.asked_to_stop() ? 1 : 0;
 }
 
-bool Connection::must_stop() {
+bool Connection::asked_to_stop() noexcept {
     if (const auto present = std::chrono::steady_clock::now();
         present - last_check_ >= pause_between_checks) {
         last_check_ = present;
@@ -198,10 +198,10 @@ bool Connection::must_stop() {
             check_interrupt();
         } catch (const Interrupt&) {
             // Nothing may be thrown through the database: raise_failure throws it on.
-            stop_ = std::current_exception();
+            users_interrupt_ = std::current_exception();
         }
     }
-    return interrupted_ || stop_ != nullptr;
+    return interrupted_ || users_interrupt_ != nullptr;
 }
 
 int Connection::on_busy(void* self, int attempts) {
@@ -213,7 +213,7 @@ int Connection::on_busy(void* self, int attempts) {
     if (attempts == 0) {
         connection.waiting_since_ = present;
     }
-    if (connection.must_stop() ||
+    if (connection.asked_to_stop() ||
         present - connection.waiting_since_ >= connection.options_.timeout) {
         return 0;
     }
@@ -224,8 +224,8 @@ int Connection::on_busy(void* self, int attempts) {
 
 void Connection::raise_failure(int code) {
     const std::string message = sqlite3_errmsg(handle_.get());
-    if (stop_ != nullptr) {
-        std::rethrow_exception(std::exchange(stop_, nullptr));
+    if (users_interrupt_ != nullptr) {
+        std::rethrow_exception(std::exchange(users_interrupt_, nullptr));
     }
     if (interrupted_) {
         throw Interrupt();
