@@ -16,12 +16,24 @@ namespace {
 // Statements of the same shape share one entry; scripts have some dozens of shapes.
 constexpr std::size_t cached_statements = 500;
 
+sql::ColumnKind kind_of(ColumnType type) noexcept {
+    switch (type) {
+        case ColumnType::Text:
+        case ColumnType::LongText:
+            return sql::ColumnKind::Text;
+        case ColumnType::Date:
+            return sql::ColumnKind::Date;
+        default:
+            return sql::ColumnKind::Other;
+    }
+}
+
 sql::Dictionary dictionary_of(const Catalog& catalog) {
     sql::Dictionary dictionary;
     for (const auto& table : catalog.tables()) {
         dictionary.add_table(table->name());
         for (const TableColumn& column : table->columns()) {
-            dictionary.add_column(column.name, column.type.type == ColumnType::Date);
+            dictionary.add_column(column.name, kind_of(column.type.type));
         }
     }
     return dictionary;
@@ -69,6 +81,17 @@ void HostSession::clean_up() {
     } catch (const AutomationError&) {
         return;
     }
+}
+
+void HostSession::Unit::enter() {
+    const GuardLock lock(session_.guard());
+    session_.guard()->lock();
+    session_.transactions_.enter();
+}
+
+void HostSession::Unit::leave() {
+    const std::unique_lock lock(*session_.guard(), std::adopt_lock);
+    session_.transactions_.leave();
 }
 
 RecordSet HostSession::get_record_set(std::string_view sql) {

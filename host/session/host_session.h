@@ -42,7 +42,8 @@ class HostSession final : public RefCounted {
     // Of the office, as its master data name it; "" where they do not.
     std::string federal_state();
 
-    [[nodiscard]] host::UnitOfWork& unit_of_work() noexcept { return transactions_; }
+    // Keeps other threads out of the session while it is open.
+    [[nodiscard]] host::UnitOfWork& unit_of_work() noexcept { return unit_; }
     void begin_transaction();
     void commit_transaction();
     void roll_back_transaction();
@@ -63,6 +64,16 @@ class HostSession final : public RefCounted {
     }
 
   private:
+    class Unit final : public host::UnitOfWork {
+      public:
+        explicit Unit(HostSession& session) noexcept : session_(session) {}
+        void enter() override;
+        void leave() override;
+
+      private:
+        HostSession& session_;
+    };
+
     // What is kept beside a caller's prepared statement.
     struct Read {
         std::shared_ptr<const Shape> shape;
@@ -85,6 +96,7 @@ class HostSession final : public RefCounted {
     StatementCache<Read> statements_;
     Transactions transactions_;
     AttachmentStore attachments_;
+    Unit unit_{*this};
     RowWriter writer_;
     Numbers numbers_;
 };

@@ -17,10 +17,6 @@ void Transactions::prepare_for_write() {
     }
 }
 
-void Transactions::enter() {
-    ++depth_;
-}
-
 void Transactions::leave() {
     if (--depth_ == 0) {
         release();
