@@ -97,6 +97,11 @@ void OpenFile::write(std::span<const unsigned char> bytes) {
     }
 }
 
+std::size_t OpenFile::copy_some(OpenFile& to, std::size_t size) noexcept {
+    const ssize_t count = copy_file_range(descriptor_, nullptr, to.descriptor_, nullptr, size, 0);
+    return count > 0 ? static_cast<std::size_t>(count) : 0;
+}
+
 void OpenFile::sync() {
     while (fsync(descriptor_) != 0) {
         if (errno != EINTR) {

@@ -40,6 +40,8 @@ class OpenFile {
     // The number of bytes read; 0 at the end.
     std::size_t read(std::span<unsigned char> buffer);
     void write(std::span<const unsigned char> bytes);
+    // Has the system copy what follows, at most so much; 0 where it will not, or at the end.
+    std::size_t copy_some(OpenFile& to, std::size_t size) noexcept;
     // What was written (or, of a folder, renamed) outlives a power failure from here on.
     void sync();
     [[nodiscard]] FileState state() const;

@@ -1,5 +1,7 @@
 #include "cvdeveloper/entities/activity_copy.h"
 
+#include <algorithm>
+
 #include "entities/record_test.h"
 
 namespace cvdeveloper {
@@ -154,6 +156,81 @@ TEST_F(ActivityCopyTest, KeysOfDifferentLengthsDoNoHarm) {
                     {"A-VERY-LONG-KEY-OF-ANOTHER-HOST-2", "A-VERY-LONG-KEY-OF-ANOTHER-HOST-2"}}));
     copies.move_next();
     EXPECT_EQ(copies.value("Akt_Dsn"), Variant("A-VERY-LONG-KEY-OF-ANOTHER-HOST-2"));
+}
+
+// What was written down, with the present moment taken out.
+Lines without_moments(Lines lines) {
+    for (std::string& line : lines) {
+        for (const std::string_view column : {"ANGELEGT", "TOUCH"}) {
+            if (line.starts_with(std::string(column) + " = #")) {
+                line = std::string(column) + " = now";
+            }
+        }
+    }
+    return lines;
+}
+
+TEST_F(ActivityCopyTest, EverythingIsWrittenInOneFixedOrderForEachActivity) {
+    const RecordSet source =
+        host.record_set({.columns = {"Dsn", "Kennung", "Stamp", "Akt_Dsn", "Projekte_Dsn", "Datum",
+                                     "Datum_Bis", "Vorlage", "Alarm", "NEU_BEN_DSN"},
+                         .rows = {{"KEY-01", "T-1", std::int32_t{5}, Null{}, "OLD", wednesday,
+                                   Null{}, monday, Null{}, "OTHER"},
+                                  {"KEY-02", "T-2", std::int32_t{6}, "KEY-01", "OLD", Null{},
+                                   Null{}, Null{}, Null{}, "OTHER"}}});
+    copier.AKT_Copy(source, "USER", "PRO", friday, monday);
+    const Lines user{"NEU_BEN_DSN = 'USER'", "ANGELEGT = now", "ÄN_BEN_DSN = 'USER'",
+                     "TOUCH = now"};
+    EXPECT_EQ(without_moments(host.log()),
+              together({{"SELECT * FROM Akt WHERE 1=2", "AddNew", "DSN = 'GUID-1'",
+                         "SELECT Kennung_AKT FROM Std", "Kennung = 'T-9'", "Akt_Dsn = Null",
+                         "Projekte_Dsn = 'OLD'", "Datum = #12.01.2011#", "Datum_Bis = Null",
+                         "Vorlage = #10.01.2011#", "Alarm = Null", "NEU_BEN_DSN = 'OTHER'",
+                         "Projekte_Dsn = 'PRO'", "Datum_Bis = Null", "Vorlage = #14.01.2011#",
+                         "Alarm = Null", "Datum = #18.01.2011#"},
+                        user,
+                        hanging_on("KEY-01"),
+                        {"AddNew", "DSN = 'GUID-2'", "SELECT Kennung_AKT FROM Std",
+                         "Kennung = 'T-9'", "Akt_Dsn = 'KEY-01'", "Projekte_Dsn = 'OLD'",
+                         "Datum = Null", "Datum_Bis = Null", "Vorlage = Null", "Alarm = Null",
+                         "NEU_BEN_DSN = 'OTHER'", "Projekte_Dsn = 'PRO'", "Datum_Bis = Null",
+                         "Vorlage = Null", "Alarm = Null", "Datum = Null"},
+                        user,
+                        hanging_on("KEY-02"),
+                        {"Akt_Dsn = 'GUID-1'"}}));
+}
+
+TEST_F(ActivityCopyTest, WithoutAUserCreatorAndMomentAreThoseOfTheSource) {
+    const RecordSet copies = copier.AKT_Copy(host.record_set(row({{"Dsn", "A"},
+                                                                  {"Akt_Dsn", Null{}},
+                                                                  {"NEU_BEN_DSN", "OTHER"},
+                                                                  {"ANGELEGT", monday},
+                                                                  {"ÄN_BEN_DSN", "THIRD"},
+                                                                  {"TOUCH", friday}})));
+    EXPECT_EQ(copies.value("NEU_BEN_DSN"), Variant("OTHER"));
+    EXPECT_EQ(copies.value("ANGELEGT"), Variant(monday));
+    EXPECT_EQ(copies.value("ÄN_BEN_DSN"), Variant("THIRD"));
+    EXPECT_EQ(copies.value("TOUCH"), Variant(friday));
+}
+
+TEST_F(ActivityCopyTest, FailureOfTheSecondActivityLeavesWhatHangsOnTheFirst) {
+    host.answer("SELECT * FROM AKTMkm WHERE Link_dsn='KEY-01'", row({{"Mkm_Dsn", "M1"}}));
+    host.refuse("SELECT * FROM AKTMkm WHERE Link_dsn='KEY-02'", {4711, "HOST", "no"});
+    const RecordSet source = activities({{"KEY-01", Null{}}, {"KEY-02", Null{}}});
+    expect_error(4711, "HOST", "no", [&] { return copier.AKT_Copy(source); });
+    const Lines log = host.log();
+    EXPECT_EQ(std::count(log.begin(), log.end(), "Update"), 1);
+    EXPECT_EQ(log.back(), "SELECT * FROM AKTMkm WHERE Link_dsn='KEY-02'");
+    EXPECT_EQ(source.value("Dsn"), Variant("KEY-02"));
+}
+
+TEST_F(ActivityCopyTest, FlagsAndDatesAreOnlyRead) {
+    Variant values[] = {activities({}), "", "", friday, monday, true, false};
+    app->invoke("AKT_Copy", InvokeKind::Method, {.values = values, .by_reference = 0x7F});
+    EXPECT_EQ(values[3], Variant(friday));
+    EXPECT_EQ(values[4], Variant(monday));
+    EXPECT_EQ(values[5], Variant(true));
+    EXPECT_EQ(values[6], Variant(false));
 }
 
 TEST_F(ActivityCopyTest, CopyingIsRefusedWithoutASession) {
