@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/keys.h"
+#include "host/new_key.h"
 #include "host/rules/address_texts.h"
 #include "platform/text.h"
 

@@ -7,8 +7,8 @@
 #include "cvdeveloper/automation/class_registry.h"
 #include "cvdeveloper/automation/conversions.h"
 #include "cvdeveloper/enumerations.h"
-#include "host/keys.h"
 #include "host/services/entry.h"
+#include "host/services/util.h"
 #include "platform/text.h"
 
 namespace cvdeveloper::standalone {
@@ -116,8 +116,8 @@ class EntryReader {
     const FieldKind& kind_of(const std::string& key) {
         const auto [place, is_new] = kinds_.try_emplace(key);
         if (is_new) {
-            const RecordSet rs =
-                session_.get_record_set("SELECT Typ, Kürzel FROM FldArt WHERE DSN=" + literal(key));
+            const RecordSet rs = session_.get_record_set(
+                "SELECT Typ, Kürzel FROM FldArt WHERE DSN=" + key_literal(key));
             if (!rs.at_end() && !rs.value("Typ").is<Null>()) {
                 place->second = {.type = to_int16(rs.value("Typ")),
                                  .name = text_of(rs.value("Kürzel")),
@@ -130,10 +130,10 @@ class EntryReader {
     // By its text, else by its short form.
     std::optional<std::string> option(const std::string& kind, std::string_view text) {
         const std::string of_kind =
-            "SELECT DSN FROM FldArtOp WHERE FldArt_Dsn=" + literal(kind) + " AND ";
+            "SELECT DSN FROM FldArtOp WHERE FldArt_Dsn=" + key_literal(kind) + " AND ";
         for (const char* column : {"Bezeichnung", "Kurz"}) {
-            const RecordSet rs =
-                session_.get_record_set(of_kind + column + "=" + literal(text) + " ORDER BY DSN");
+            const RecordSet rs = session_.get_record_set(of_kind + column + "=" +
+                                                         key_literal(text) + " ORDER BY DSN");
             if (!rs.at_end()) {
                 return text_of(rs.value_at(0));
             }
@@ -144,7 +144,7 @@ class EntryReader {
     // The person or company of that name. Where there are several, the one linked already; none
     // where that does not tell.
     std::optional<std::string> address(std::string_view text) {
-        const std::string name = literal(text);
+        const std::string name = key_literal(text);
         const std::string link = text_of(details_.value("Link_DSN"));
         for (const std::string& condition :
              {"NAME=" + name, "Firma=" + name + " AND (NAME IS NULL OR NAME='')",

@@ -1,7 +1,7 @@
 #include "host/services/util.h"
 
 #include "cvdeveloper/automation/conversions.h"
-#include "host/keys.h"
+#include "host/new_key.h"
 #include "platform/files.h"
 #include "platform/regional.h"
 
@@ -21,8 +21,19 @@ bool is_blank(const Variant& value) {
 
 }  // namespace
 
+std::string key_literal(std::string_view key) {
+    std::string literal = "'";
+    for (const char c : key) {
+        literal += c;
+        if (c == '\'') {
+            literal += c;
+        }
+    }
+    return literal += '\'';
+}
+
 std::string Util::SqlUid(std::string_view key) {
-    return literal(key);
+    return key_literal(key);
 }
 
 Variant Util::SqlStrNull(std::string_view text) {

@@ -5,6 +5,9 @@
 
 namespace cvdeveloper::standalone {
 
+// A key as a statement's literal: quote, key, quote.
+std::string key_literal(std::string_view key);
+
 // The session's helpers for keys, literals and values that may be null.
 class Util final : public LibraryObject, public host::Util {
   public:

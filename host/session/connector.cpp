@@ -1,14 +1,20 @@
 #include "host/session/connector.h"
 
+#include "host/services/progress.h"
+
 namespace cvdeveloper::standalone {
 
 void Connector::Logon(std::string_view path, std::string_view user, std::string_view password) {
     attach(HostSession::log_on(path, user, password));
+    progress_ = make_object<standalone::Progress>();
+    if (state_) {
+        state_->set(federal_state(session().federal_state()));
+    }
 }
 
 ObjectRef Connector::Progress() {
     session();
-    return nullptr;
+    return progress_;
 }
 
 const InterfaceTable& Connector::table() const noexcept {
@@ -29,7 +35,7 @@ const InterfaceTable& Connector::table() const noexcept {
          .kind = OperationKind::Get,
          .binding = bind<&Connector::Progress>,
          .parameters = {},
-         .help = {.what = "A progress display."}},
+         .help = {.what = "The connector's progress bar, always the same one."}},
     };
     static const InterfaceTable members(
         automation_name, "A session without a user interface.",

@@ -41,7 +41,10 @@ Ref<HostSession> HostSession::log_on(std::string_view path, std::string_view use
     HostFolder folder = HostFolder::open(path);
     std::unique_ptr<Database> database = folder.open_database();
     std::string user_key = Users(*database).log_on(user, password);
-    return make_object<HostSession>(std::move(folder), std::move(database), std::move(user_key));
+    const auto session =
+        make_object<HostSession>(std::move(folder), std::move(database), std::move(user_key));
+    session->clean_up();
+    return session;
 }
 
 HostSession::HostSession(HostFolder folder, std::unique_ptr<Database> database,
@@ -54,9 +57,19 @@ HostSession::HostSession(HostFolder folder, std::unique_ptr<Database> database,
       dictionary_(dictionary_of(*catalog_)),
       reader_(dictionary_),
       statements_(cached_statements),
-      transactions_(*database_),
+      transactions_(*database_, [this] { attachments_.settle(); }),
+      attachments_(*database_, transactions_, disk_path(folder_.path()) / "Anlagen"),
       writer_(*database_, table_rules(*database_)),
       numbers_(*database_, folder_.settings().number_digits) {}
+
+// Nobody is kept from working by what another session has left behind.
+void HostSession::clean_up() {
+    try {
+        attachments_.clean_up();
+    } catch (const AutomationError&) {
+        return;
+    }
+}
 
 RecordSet HostSession::get_record_set(std::string_view sql) {
     const GuardLock lock(guard());
@@ -150,6 +163,14 @@ RecordSet HostSession::current_user() {
 RecordSet HostSession::master_data() {
     const GuardLock lock(guard());
     return run("SELECT * FROM Std", {}, false, false);
+}
+
+std::string HostSession::federal_state() {
+    const GuardLock lock(guard());
+    Rows found(1);
+    database_->prepare("SELECT Bundesland FROM Std LIMIT 1", Author::Host)->query({}, found);
+    return std::string(found.size() == 0 || found[0][0].is_null() ? std::string_view()
+                                                                  : found[0][0].text());
 }
 
 void HostSession::begin_transaction() {

@@ -10,6 +10,7 @@
 #include "host/database/statement_cache.h"
 #include "host/folder/host_folder.h"
 #include "host/recordset/row_writer.h"
+#include "host/session/attachment_store.h"
 #include "host/session/numbers.h"
 #include "host/session/transactions.h"
 #include "host/sql/statement_reader.h"
@@ -38,12 +39,17 @@ class HostSession final : public RefCounted {
     void update_record_set(const RecordSet& record_set);
     RecordSet current_user();
     RecordSet master_data();
+    // Of the office, as its master data name it; "" where they do not.
+    std::string federal_state();
 
     [[nodiscard]] host::UnitOfWork& unit_of_work() noexcept { return transactions_; }
     void begin_transaction();
     void commit_transaction();
     void roll_back_transaction();
     [[nodiscard]] bool has_transaction() const noexcept { return transactions_.is_open(); }
+
+    // Whoever calls it takes the guard.
+    [[nodiscard]] AttachmentStore& attachments() noexcept { return attachments_; }
 
     // Settings of scripts.
     std::string setting(std::string_view section, std::string_view key,
@@ -63,6 +69,7 @@ class HostSession final : public RefCounted {
         std::vector<std::size_t> counters;  // columns that show numbers of cv_counter
     };
 
+    void clean_up();
     RecordSet run(std::string_view text, std::span<const Value> values, bool never_true,
                   bool takes_numbers);
     StatementCache<Read>::Entry prepare(std::string_view text, std::size_t values);
@@ -77,6 +84,7 @@ class HostSession final : public RefCounted {
     sql::StatementReader reader_;
     StatementCache<Read> statements_;
     Transactions transactions_;
+    AttachmentStore attachments_;
     RowWriter writer_;
     Numbers numbers_;
 };

@@ -1,6 +1,7 @@
 #include "host/session/session_object.h"
 
 #include "host/errors.h"
+#include "host/services/blob.h"
 #include "host/services/db_ini.h"
 #include "host/services/parse_and_fill.h"
 #include "host/services/util.h"
@@ -19,6 +20,7 @@ template <class Interface>
 void SessionObject<Interface>::attach(Ref<HostSession> session) {
     session_ = std::move(session);
     util_ = make_object<standalone::Util>();
+    blob_ = make_object<standalone::Blob>(session_);
     db_ini_ = make_object<standalone::DbIni>(session_);
 }
 
@@ -31,7 +33,7 @@ ObjectRef SessionObject<Interface>::Util() {
 template <class Interface>
 ObjectRef SessionObject<Interface>::Blob() {
     session();
-    return nullptr;
+    return blob_;
 }
 
 template <class Interface>

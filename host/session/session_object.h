@@ -44,6 +44,7 @@ class SessionObject : public LibraryObject, public Interface {
 
     Ref<HostSession> session_;
     ObjectRef util_;
+    ObjectRef blob_;
     ObjectRef db_ini_;
 };
 

@@ -22,15 +22,23 @@ void Transactions::enter() {
 }
 
 void Transactions::leave() {
-    if (--depth_ > 0 || is_callers_ || !database_.in_transaction()) {
+    if (--depth_ == 0) {
+        release();
+    }
+}
+
+void Transactions::release() {
+    if (is_callers_ || !database_.in_transaction()) {
         return;
     }
     try {
         database_.commit();
     } catch (...) {
         database_.rollback();
+        ended_();
         throw;
     }
+    ended_();
 }
 
 void Transactions::begin() {
@@ -51,6 +59,7 @@ void Transactions::commit() {
     // A commit that fails leaves the transaction open, to be tried again or rolled back.
     database_.commit();
     is_callers_ = false;
+    ended_();
 }
 
 void Transactions::rollback() {
@@ -59,6 +68,7 @@ void Transactions::rollback() {
     }
     is_callers_ = false;
     database_.rollback();
+    ended_();
 }
 
 }  // namespace cvdeveloper::standalone

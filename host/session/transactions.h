@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <utility>
+
 #include "cvdeveloper/host/session.h"
 #include "host/database/database.h"
 
@@ -10,10 +13,17 @@ namespace cvdeveloper::standalone {
 // In a caller's own transaction units do nothing.
 class Transactions final : public host::UnitOfWork {
   public:
-    explicit Transactions(Database& database) noexcept : database_(database) {}
+    // ended() is called after every transaction that outlasted one write, kept or not.
+    explicit Transactions(
+        Database& database, std::function<void()> ended = [] {})
+        : database_(database), ended_(std::move(ended)) {}
 
     void enter() override;
     void leave() override;
+
+    // Commits what a unit has written so far, so that nobody waits for what takes long from here
+    // on. A caller's own transaction stays open.
+    void release();
 
     // Errors: Transaction for a second one, or an end without a beginning.
     void begin();
@@ -62,6 +72,7 @@ class Transactions final : public host::UnitOfWork {
     }
 
     Database& database_;
+    std::function<void()> ended_;
     int depth_ = 0;
     bool is_callers_ = false;
 };

@@ -1,7 +1,7 @@
 #include "host/ui/pane.h"
 
 #include "cvdeveloper/automation/conversions.h"
-#include "host/keys.h"
+#include "host/services/util.h"
 #include "host/sql/names.h"
 
 namespace cvdeveloper::standalone {
@@ -22,7 +22,7 @@ void Pane::Find(std::string_view where) {
 }
 
 void Pane::FindDsn(std::string_view key) {
-    Find("DSN=" + literal(key));
+    Find("DSN=" + key_literal(key));
 }
 
 void Pane::Show() {
@@ -37,7 +37,7 @@ void Pane::Show() {
         }
     }
     const RecordSet record =
-        session_->get_record_set("SELECT * FROM " + table_ + " WHERE DSN=" + literal(key));
+        session_->get_record_set("SELECT * FROM " + table_ + " WHERE DSN=" + key_literal(key));
     // The record may have been deleted since it was found.
     display_->show({.form = form_,
                     .condition = condition_,

@@ -4,7 +4,7 @@
 #include "cvdeveloper/automation/conversions.h"
 #include "host/errors.h"
 #include "host/host_test.h"
-#include "host/keys.h"
+#include "host/new_key.h"
 
 namespace cvdeveloper::standalone::testing {
 namespace {

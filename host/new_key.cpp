@@ -1,14 +1,14 @@
-#include "host/keys.h"
+#include "host/new_key.h"
 
 #include <sodium.h>
 
 #include <array>
+#include <string_view>
 
 #include "host/errors.h"
 
 namespace cvdeveloper::standalone {
 
-// Version 4: 8-4-4-4-12 digits.
 std::string new_key() {
     if (sodium_init() < 0) {
         raise(HostError::Database, "Der Zufallsgenerator steht nicht zur Verfügung.");
@@ -28,17 +28,6 @@ std::string new_key() {
         key += digits[bytes[i] & 0x0FU];
     }
     return key;
-}
-
-std::string literal(std::string_view text) {
-    std::string quoted = "'";
-    for (const char c : text) {
-        quoted += c;
-        if (c == '\'') {
-            quoted += c;
-        }
-    }
-    return quoted += '\'';
 }
 
 }  // namespace cvdeveloper::standalone
