@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "cvdeveloper/automation/class_registry.h"
+#include "host/services/legal_holidays.h"
 #include "host/services/placeholders.h"
 #include "host/ui/pane.h"
 
@@ -111,8 +112,12 @@ Ref<Application> start_application(std::string_view folder, std::string_view use
     if (display == nullptr) {
         display = std::make_shared<TerminalDisplay>(std::cout);
     }
-    auto application =
-        make_object<Application>(HostSession::log_on(folder, user, password), std::move(display));
+    Ref<HostSession> session = HostSession::log_on(folder, user, password);
+    // Components are made without a session; from here on the holidays are this office's.
+    register_class("clqexstdc10.cLegalHolidays", [state = federal_state(session->federal_state())] {
+        return ObjectRef(make_object<LegalHolidays>(state));
+    });
+    auto application = make_object<Application>(std::move(session), std::move(display));
     register_active_object(Application::automation_name, application);
     return application;
 }

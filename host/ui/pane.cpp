@@ -1,7 +1,8 @@
+#include "host/keys.h"
 #include "host/ui/pane.h"
 
 #include "cvdeveloper/automation/conversions.h"
-#include "host/keys.h"
+#include "host/services/util.h"
 #include "host/sql/names.h"
 
 namespace cvdeveloper::standalone {

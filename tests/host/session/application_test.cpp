@@ -13,7 +13,6 @@ namespace {
 
 class RunningApplication : public SampleTest {
   protected:
-    RunningApplication() { register_standalone_host(); }
     ~RunningApplication() override {
         library->Corvanta_Done();
         clear_registry();
@@ -24,9 +23,14 @@ class RunningApplication : public SampleTest {
         return text;
     }
 
+    Ref<Application> start() {
+        register_standalone_host();
+        return start_application(host_path(), "chef", "",
+                                 std::make_shared<TerminalDisplay>(terminal));
+    }
+
     std::ostringstream terminal;
-    Ref<Application> running =
-        start_application(host_path(), "chef", "", std::make_shared<TerminalDisplay>(terminal));
+    Ref<Application> running = start();
     Ref<cvdeveloper::Application> library = make_object<cvdeveloper::Application>();
 };
 
@@ -81,6 +85,14 @@ TEST_F(RunningApplication, WritesInUnitsOfWorkAndTransactions) {
     library->AKT_DeleteByDsn(key);
     running->call("RollbackTrans");
     EXPECT_FALSE(library->oBase()->Sql_FindByDSN("AKT", key).at_end());
+}
+
+TEST_F(RunningApplication, HasTheAttachmentsAndHolidaysOfItsOffice) {
+    library->Corvanta_InitApplication();
+    EXPECT_TRUE(library->oBlob());
+    EXPECT_EQ(library->oBase()->CV_CreateProgress()->class_name(), "clqexstdc10.cProgress");
+    const ObjectRef holidays = create_object("clqexstdc10.cLegalHolidays");
+    EXPECT_EQ(holidays->get("Bundesland"), Variant("Nordrhein-Westfalen"));
 }
 
 TEST_F(RunningApplication, FillsTheLettersPlaceholders) {
