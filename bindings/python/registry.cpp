@@ -10,6 +10,7 @@
 #include "errors.h"
 #include "host/folder/create_folder.h"
 #include "host/register.h"
+#include "host/session/application.h"
 #include "library_types.h"
 #include "python_object.h"
 #include "texts.h"
@@ -130,6 +131,19 @@ PyObject* create_host_folder(PyObject* module, PyObject* arguments) {
     });
 }
 
+PyObject* start_host_application(PyObject* module, PyObject* arguments) {
+    State& state = state_of(module);
+    return guarded(state, [&] {
+        const char* folder = nullptr;
+        const char* user = nullptr;
+        const char* password = nullptr;
+        if (PyArg_ParseTuple(arguments, "sss:start", &folder, &user, &password) == 0) {
+            throw PythonError{};
+        }
+        return object_to_python(state, standalone::start_application(folder, user, password));
+    });
+}
+
 // The interpreter casts it back by the flags that stand beside it.
 PyCFunction as_function(PyCFunctionWithKeywords function) noexcept {
     return reinterpret_cast<PyCFunction>(reinterpret_cast<void (*)()>(function));
@@ -163,6 +177,7 @@ PyMethodDef registry_functions[] = {
      "set_message_handler(handler)\n--\n\n"
      "Has handler(text) called for each message box; None restores standard error."},
     {"_create_host_folder", create_host_folder, METH_VARARGS, nullptr},
+    {"_start_host_application", start_host_application, METH_VARARGS, nullptr},
     {"_messages_of", messages_of, METH_O, nullptr},
     {"_let_go_of_everything", let_go_of_everything, METH_NOARGS, nullptr},
     {nullptr, nullptr, 0, nullptr},

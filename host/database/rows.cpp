@@ -10,7 +10,7 @@ namespace cvdeveloper::standalone {
 
 namespace {
 
-constexpr std::size_t largest_block = 256U * 1024U;
+constexpr std::size_t largest_block = std::size_t{256} * 1024;
 
 constexpr std::size_t aligned(std::size_t size) noexcept {
     return (size + alignof(Cell) - 1) / alignof(Cell) * alignof(Cell);

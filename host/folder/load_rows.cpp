@@ -40,6 +40,7 @@ void load_file(Database& database, const std::filesystem::path& file) {
         }
         // The columns' declared types turn the texts of numbers into numbers.
         std::vector<Value> values;
+        values.reserve(columns);
         for (const CsvReader::Cell& cell : row) {
             values.push_back(cell ? Value(std::string_view(*cell)) : Value());
         }

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "cvdeveloper/host/session.h"
+#include <functional>
+#include <utility>
+
 #include "host/database/database.h"
 
 namespace cvdeveloper::standalone {
@@ -8,12 +10,19 @@ namespace cvdeveloper::standalone {
 // When what is written gets committed. A unit of work begins a transaction with its first write
 // and commits it once at its outermost end, also after an error: what was written before stays.
 // In a caller's own transaction units do nothing.
-class Transactions final : public host::UnitOfWork {
+class Transactions final {
   public:
-    explicit Transactions(Database& database) noexcept : database_(database) {}
+    // ended() is called after every transaction that outlasted one write, kept or not.
+    explicit Transactions(
+        Database& database, std::function<void()> ended = [] {})
+        : database_(database), ended_(std::move(ended)) {}
 
-    void enter() override;
-    void leave() override;
+    void enter() noexcept { ++depth_; }
+    void leave();
+
+    // Commits what a unit has written so far, so that nobody waits for what takes long from here
+    // on. A caller's own transaction stays open.
+    void release();
 
     // Errors: Transaction for a second one, or an end without a beginning.
     void begin();
@@ -62,6 +71,7 @@ class Transactions final : public host::UnitOfWork {
     }
 
     Database& database_;
+    std::function<void()> ended_;
     int depth_ = 0;
     bool is_callers_ = false;
 };

@@ -16,7 +16,7 @@ namespace {
 // Argon2id with the passes of an interactive log-on, and memory that keeps it near 50 ms on a
 // small office machine.
 constexpr unsigned long long passes = crypto_pwhash_OPSLIMIT_INTERACTIVE;
-constexpr std::size_t memory = 32U * 1024U * 1024U;
+constexpr std::size_t memory = std::size_t{32} * 1024 * 1024;
 
 // The hash of a text that nobody uses: checking it makes an unknown user cost the time of a known
 // one.

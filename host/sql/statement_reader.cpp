@@ -61,6 +61,7 @@ const ReadStatement& StatementReader::read(std::string_view statement) {
     statement_ = statement;
     tokenize(statement, tokens_);
     levels_.assign(1, Level{});
+    places_.clear();
     texts_.clear();
     result_.text.clear();
     result_.values.clear();
@@ -68,6 +69,7 @@ const ReadStatement& StatementReader::read(std::string_view statement) {
     result_.broken = {};
     for (std::size_t i = 0; i < tokens_.size(); ++i) {
         append_gap(i);
+        places_.push_back(result_.text.size());
         read_token(i);
     }
     result_.never_true = finds_never_true();
@@ -185,6 +187,50 @@ void StatementReader::read_string(std::size_t index) {
         text = texts_.emplace_back(std::string(text) + " 00:00:00");
     }
     lift(text);
+    if (tokens_[index - 1].is_keyword("LIKE")) {
+        add_range_of_like(index, text);
+    } else if (is_compared_with_function(index)) {
+        // Columns compare as users expect by themselves, results of functions do not.
+        result_.text += " COLLATE CVTEXT";
+    }
+}
+
+// "x LIKE 'abc%'" becomes "(x LIKE 'abc%' AND x>='abc' AND x<'abc...')": the database finds the
+// range in an index, where LIKE alone would make it look at every row.
+void StatementReader::add_range_of_like(std::size_t index, std::string_view pattern) {
+    const Token* const next = at(index + 1);
+    const std::string_view prefix = pattern.substr(0, pattern.find_first_of("%_"));
+    if (index < 2 || prefix.find_first_not_of(' ') == std::string_view::npos ||
+        kind_of(tokens_[index - 2]) != ColumnKind::Text ||
+        (next != nullptr && next->is_keyword("ESCAPE"))) {
+        return;
+    }
+    const bool is_qualified = index >= 4 && tokens_[index - 3].is(".");
+    const std::size_t begin = places_[is_qualified ? index - 4 : index - 2];
+    const std::size_t end = places_[index - 2] + tokens_[index - 2].text.size();
+    const std::string column = result_.text.substr(begin, end - begin);
+    constexpr std::string_view last_character = "\U0010FFFD";
+    result_.text.append(" AND ").append(column).append(">=");
+    lift(prefix);
+    result_.text.append(" AND ").append(column).append("<");
+    lift(texts_.emplace_back(std::string(prefix).append(last_character)));
+    result_.text += ')';
+    result_.text.insert(begin, 1, '(');
+}
+
+bool StatementReader::is_compared_with_function(std::size_t index) const {
+    return index >= 2 && is_comparison(tokens_[index - 1]) && tokens_[index - 2].is(")");
+}
+
+ColumnKind StatementReader::kind_of(const Token& name) const {
+    switch (name.kind) {
+        case TokenKind::Name:
+            return dictionary_.kind_of(name.text);
+        case TokenKind::QuotedName:
+            return dictionary_.kind_of(unquoted(name.text));
+        default:
+            return ColumnKind::Other;
+    }
 }
 
 void StatementReader::read_number(std::size_t index) {
@@ -228,9 +274,7 @@ bool StatementReader::is_compared_with_date(std::size_t index) const {
     if (tokens_[column].is_keyword("NOT") && column > 0) {
         --column;
     }
-    const Token& name = tokens_[column];
-    return (name.kind == TokenKind::Name && dictionary_.is_date_column(name.text)) ||
-           (name.kind == TokenKind::QuotedName && dictionary_.is_date_column(unquoted(name.text)));
+    return kind_of(tokens_[column]) == ColumnKind::Date;
 }
 
 std::string_view StatementReader::text_of(const Token& string_token) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <string>
 #include <string_view>
@@ -24,22 +25,29 @@ struct ReadStatement {
     std::string_view broken;  // the quote or comment without its end, if there is one
 };
 
+enum class ColumnKind : std::uint8_t { Text, Date, Other };
+
 // What the reader knows of the schema.
 class Dictionary {
   public:
     void add_table(std::string_view name) { spelling_.add(name, NameUse::Table); }
-    void add_column(std::string_view name, bool is_date) {
+    // A name that columns of different kinds share is of no kind.
+    void add_column(std::string_view name, ColumnKind kind) {
         spelling_.add(name, NameUse::Column);
-        if (is_date) {
-            dates_.emplace(name, true);
+        const auto [known, is_new] = kinds_.emplace(name, kind);
+        if (!is_new && known->second != kind) {
+            known->second = ColumnKind::Other;
         }
     }
     [[nodiscard]] const Spelling& spelling() const noexcept { return spelling_; }
-    [[nodiscard]] bool is_date_column(std::string_view name) const { return dates_.contains(name); }
+    [[nodiscard]] ColumnKind kind_of(std::string_view column) const {
+        const auto found = kinds_.find(column);
+        return found == kinds_.end() ? ColumnKind::Other : found->second;
+    }
 
   private:
     Spelling spelling_;
-    NameMap<bool> dates_;
+    NameMap<ColumnKind> kinds_;
 };
 
 // Reads a caller's statement once, from token to token. Literals of conditions become parameters;
@@ -69,7 +77,10 @@ class StatementReader {
     void lift(Value value);
     [[nodiscard]] bool may_lift(std::size_t index) const;
     [[nodiscard]] NameUse use_of(std::size_t index) const;
+    void add_range_of_like(std::size_t index, std::string_view pattern);
     [[nodiscard]] bool is_compared_with_date(std::size_t index) const;
+    [[nodiscard]] bool is_compared_with_function(std::size_t index) const;
+    [[nodiscard]] ColumnKind kind_of(const Token& name) const;
     [[nodiscard]] std::string_view text_of(const Token& string_token);
     [[nodiscard]] bool finds_never_true() const;
     [[nodiscard]] const Token* at(std::size_t index) const noexcept {
@@ -79,6 +90,7 @@ class StatementReader {
     const Dictionary& dictionary_;
     std::string_view statement_;
     std::vector<Token> tokens_;
+    std::vector<std::size_t> places_;  // of the tokens in the text read so far
     std::vector<Level> levels_;
     std::deque<std::string> texts_;  // literals that differ from their spelling
     ReadStatement result_;

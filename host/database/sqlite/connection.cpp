@@ -16,6 +16,9 @@ namespace {
 // So many steps of the database's machine pass before a statement counts as long: some 0.2 ms.
 constexpr int steps_of_a_short_statement = 10000;
 
+// How often a long statement asks whether the user wants to stop it.
+constexpr std::chrono::milliseconds pause_between_checks(50);
+
 // Nothing but white space and semicolons may follow a statement.
 bool is_blank(std::string_view text) noexcept {
     return text.find_first_not_of(" \t\r\n\f\v;") == std::string_view::npos;
@@ -181,19 +184,24 @@ void Connection::give_up_interpreter_lock() {
     }
 }
 
-bool Connection::asked_to_stop() noexcept {
-    try {
-        check_interrupt();
-    } catch (const Interrupt&) {
-        users_interrupt_ = std::current_exception();
-    }
-    return interrupted_ || users_interrupt_ != nullptr;
-}
-
 int Connection::on_progress(void* self) {
     auto& connection = *static_cast<Connection*>(self);
     connection.give_up_interpreter_lock();
     return connection.asked_to_stop() ? 1 : 0;
+}
+
+bool Connection::asked_to_stop() noexcept {
+    if (const auto present = std::chrono::steady_clock::now();
+        present - last_check_ >= pause_between_checks) {
+        last_check_ = present;
+        try {
+            check_interrupt();
+        } catch (const Interrupt&) {
+            // Nothing may be thrown through the database: raise_failure throws it on.
+            users_interrupt_ = std::current_exception();
+        }
+    }
+    return interrupted_ || users_interrupt_ != nullptr;
 }
 
 int Connection::on_busy(void* self, int attempts) {
@@ -214,10 +222,10 @@ int Connection::on_busy(void* self, int attempts) {
     return 1;
 }
 
-void Connection::raise_failure(int code) const {
+void Connection::raise_failure(int code) {
     const std::string message = sqlite3_errmsg(handle_.get());
     if (users_interrupt_ != nullptr) {
-        std::rethrow_exception(users_interrupt_);
+        std::rethrow_exception(std::exchange(users_interrupt_, nullptr));
     }
     if (interrupted_) {
         throw Interrupt();

@@ -71,23 +71,22 @@ class Connection final : public Database {
         Author before_;
     };
     void give_up_interpreter_lock();
-
     // Whether the statement is to stop: somebody called interrupt(), or the user wants it.
-    bool asked_to_stop() noexcept;
+    [[nodiscard]] bool asked_to_stop() noexcept;
 
     static int on_progress(void* self);
     static int on_busy(void* self, int attempts);
-    [[nodiscard]] std::unique_ptr<Statement> prepare_own(std::string_view text);
-    [[noreturn]] void raise_failure(int code) const;
+    [[noreturn]] void raise_failure(int code);
 
     std::unique_ptr<sqlite3, Close> handle_;
     OpenOptions options_;
     Access access_;
     std::shared_ptr<const Catalog> catalog_;
     std::atomic<bool> interrupted_ = false;
-    std::exception_ptr users_interrupt_;  // what the script host has to say about it
     std::optional<BlockingScope> long_run_;
     std::chrono::steady_clock::time_point waiting_since_;
+    std::chrono::steady_clock::time_point last_check_;
+    std::exception_ptr users_interrupt_;  // what the script host has to say about it
 
     std::unique_ptr<Statement> begin_;
     std::unique_ptr<Statement> commit_;

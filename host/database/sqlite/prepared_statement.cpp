@@ -54,7 +54,10 @@ class ResetAtEnd {
 }  // namespace
 
 PreparedStatement::PreparedStatement(Connection& connection, Handle handle, Author author)
-    : connection_(connection), handle_(std::move(handle)), author_(author) {
+    : connection_(connection),
+      handle_(std::move(handle)),
+      author_(author),
+      writes_(sqlite3_stmt_readonly(handle_.get()) == 0) {
     const int count = sqlite3_column_count(handle_.get());
     columns_.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
@@ -69,6 +72,10 @@ std::size_t PreparedStatement::parameter_count() const noexcept {
 }
 
 void PreparedStatement::bind(std::span<const Value> values) {
+    // Outside a transaction a write ends with waiting for the disk.
+    if (writes_ && connection_.options_.full_sync && !connection_.in_transaction()) {
+        connection_.give_up_interpreter_lock();
+    }
     int position = 0;
     for (const Value& value : values) {
         if (const int code = bind_value(handle_.get(), ++position, value); code != SQLITE_OK) {
@@ -125,10 +132,6 @@ void PreparedStatement::read_row(Rows& rows) const {
 std::int64_t PreparedStatement::execute(std::span<const Value> values) {
     const Connection::Running running(connection_, author_);
     const ResetAtEnd reset(handle_.get());
-    // Outside a transaction a write ends with waiting for the disk.
-    if (connection_.options_.full_sync && !connection_.in_transaction()) {
-        connection_.give_up_interpreter_lock();
-    }
     bind(values);
     while (step()) {
     }

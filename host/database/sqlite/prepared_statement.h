@@ -34,6 +34,7 @@ class PreparedStatement final : public Statement {
     Connection& connection_;
     Handle handle_;
     Author author_;
+    bool writes_;
     std::vector<ResultColumn> columns_;
 };
 

@@ -14,9 +14,12 @@ class StatementReading : public ::testing::Test {
             dictionary.add_table(name);
         }
         for (const char* name : {"Dsn", "Verträge_Dsn", "Priorität", "Kürzel", "Neue"}) {
-            dictionary.add_column(name, false);
+            dictionary.add_column(name, ColumnKind::Other);
         }
-        dictionary.add_column("Datum", true);
+        dictionary.add_column("Datum", ColumnKind::Date);
+        dictionary.add_column("Nummer", ColumnKind::Text);
+        dictionary.add_column("Stand", ColumnKind::Text);
+        dictionary.add_column("Stand", ColumnKind::Date);
     }
     std::string text(std::string_view statement) { return reader.read(statement).text; }
     std::vector<Value> values(std::string_view statement) { return reader.read(statement).values; }
@@ -56,7 +59,7 @@ TEST_F(StatementReading, LeavesSelectListsSortTermsLimitsAndTypesAlone) {
         EXPECT_TRUE(values(statement).empty());
     }
     EXPECT_EQ(text("SELECT a FROM b WHERE CAST(x AS CHAR(36))='1'"),
-              "SELECT a FROM b WHERE CAST(x AS CHAR(36))=?");
+              "SELECT a FROM b WHERE CAST(x AS CHAR(36))=? COLLATE CVTEXT");
 }
 
 TEST_F(StatementReading, GoesBackToListsAfterAnInnerCondition) {
@@ -126,6 +129,28 @@ TEST_F(StatementReading, CompletesDaysThatStandBesideDates) {
     EXPECT_EQ(first("SELECT 1 FROM AKT WHERE Datum LIKE '2026-03-01'"), "2026-03-01");
     const auto both = values("SELECT 1 FROM AKT WHERE Datum BETWEEN '2026-03-01' AND '2026-03-31'");
     EXPECT_EQ(std::get<std::string_view>(both.at(1)), "2026-03-31 00:00:00");
+}
+
+TEST_F(StatementReading, AddsTheRangeThatALikeStandsFor) {
+    const ReadStatement& read =
+        reader.read("SELECT 1 FROM Tapi WHERE Tapi.Nummer LIKE '0201%' AND x='y'");
+    EXPECT_EQ(read.text,
+              "SELECT 1 FROM Tapi WHERE (Tapi.Nummer LIKE ? AND Tapi.Nummer>=? AND "
+              "Tapi.Nummer<?) AND x=?");
+    EXPECT_EQ(std::get<std::string_view>(read.values.at(0)), "0201%");
+    EXPECT_EQ(std::get<std::string_view>(read.values.at(1)), "0201");
+    EXPECT_EQ(std::get<std::string_view>(read.values.at(3)), "y");
+    for (const std::string statement : {"SELECT 1 FROM Tapi WHERE Nummer LIKE '%1'",
+                                        "SELECT 1 FROM Tapi WHERE Nummer NOT LIKE 'a'",
+                                        "SELECT 1 FROM Tapi WHERE Stand LIKE 'a%'",
+                                        "SELECT 1 FROM Tapi WHERE Nummer LIKE 'a' ESCAPE '!'"}) {
+        EXPECT_EQ(reader.read(statement).text.find(">="), std::string::npos) << statement;
+    }
+}
+
+TEST_F(StatementReading, ComparesResultsOfFunctionsAsTexts) {
+    EXPECT_EQ(text("SELECT 1 FROM t WHERE RIGHT(a,2)='xy' AND b='c'"),
+              "SELECT 1 FROM t WHERE \"RIGHT\"(a,?)=? COLLATE CVTEXT AND b=?");
 }
 
 TEST_F(StatementReading, DropsComments) {
