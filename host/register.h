@@ -2,8 +2,8 @@
 
 namespace cvdeveloper::standalone {
 
-// Makes the stand-alone host's classes known to this process: "CVConnector.Application" and
-// "clqexStdC10.cUtil".
+// Makes the stand-alone host's classes known to this process: "CVConnector.Application" and the
+// standard components "clqexStdC10.cUtil", ".cLegalHolidays" and ".cProgress".
 void register_standalone_host();
 
 }  // namespace cvdeveloper::standalone

@@ -9,8 +9,10 @@
 #include <vector>
 
 #include "cvdeveloper/automation/idl.h"
+#include "cvdeveloper/automation/reference.h"
 #include "cvdeveloper/public_classes.h"
 #include "host/folder/create_folder.h"
+#include "write_reference.h"
 
 namespace cvdev {
 
@@ -84,8 +86,14 @@ int shell(Words arguments) {
 }
 
 int interface(Words arguments) {
-    constexpr std::array<std::string_view, 1> flags{"--idl"};
+    constexpr std::array<std::string_view, 2> flags{"--idl", "--reference"};
     const Options options = read(arguments, flags);
+    if (options.has("--reference")) {
+        write_reference(only_folder(options),
+                        cvdeveloper::reference_pages(cvdeveloper::documented_classes(),
+                                                     cvdeveloper::enumerations()));
+        return EXIT_SUCCESS;
+    }
     if (!options.words.empty()) {
         throw UsageError{"no arguments are taken"};
     }
@@ -105,7 +113,8 @@ int interface(Words arguments) {
 constexpr Command all[] = {
     {"init", "FOLDER [--sample]", "makes a host folder with an empty or a sample database", init},
     {"shell", "FOLDER", "opens Python with app connected to the host folder", shell},
-    {"interface", "[--idl]", "lists the operations, or prints them as IDL", interface},
+    {"interface", "[--idl | --reference FOLDER]",
+     "lists the operations, prints them as IDL, or writes the reference pages", interface},
 };
 
 }  // namespace

@@ -30,20 +30,12 @@ ParameterNames parameter_names(const Operation& operation) {
     return names;
 }
 
-// The storage is left raw on purpose: clearing room for 32 values would cost more than most calls.
-// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
 Call::Call(State& state, const Operation& operation) : state_(state), operation_(operation) {
-    for (std::size_t i = 0; i < count_of(operation); ++i) {
-        std::construct_at(reinterpret_cast<Variant*>(storage_) + i, Missing{});
-    }
+    std::uninitialized_fill_n(slots(), count_of(operation), Variant(Missing{}));
 }
 
 Call::~Call() {
     std::destroy_n(slots(), count_of(operation_));
-}
-
-Variant* Call::slots() noexcept {
-    return std::launder(reinterpret_cast<Variant*>(storage_));
 }
 
 void Call::place_at(std::size_t index, PyObject* value) {
@@ -51,7 +43,7 @@ void Call::place_at(std::size_t index, PyObject* value) {
         return;
     }
     Owned content;
-    if (Py_IS_TYPE(value, state_.ref.type())) {
+    if (PyObject_TypeCheck(value, state_.ref.type())) {
         references_ |= 1U << index;
         references_to_[index] = value;
         content = content_of(state_, value);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
+#include <cstdint>
 #include <vector>
 
 #include "cvdeveloper/automation/library_object.h"
@@ -34,14 +34,24 @@ class Call {
     Owned run(Object& object);
 
   private:
-    Variant* slots() noexcept;
+    // Left raw: clearing room for 32 values would cost more than most calls. Call makes and
+    // destroys as many as its row has.
+    union Slots {
+        Slots() {}
+        ~Slots() {}
+        Slots(const Slots&) = delete;
+        Slots& operator=(const Slots&) = delete;
+        Variant values[most_parameters];
+    };
+
+    Variant* slots() noexcept { return slots_.values; }
     std::size_t place_of(PyObject* keyword, const ParameterNames& names) const;
 
     State& state_;
     const Operation& operation_;
-    std::uint32_t references_ = 0;  // bit i: references_to_[i] is a Ref
-    alignas(Variant) std::byte storage_[most_parameters * sizeof(Variant)];
-    PyObject* references_to_[most_parameters];  // the caller's, for the length of the call
+    std::uint32_t references_ = 0;                            // bit i: references_to_[i] is a Ref
+    std::array<PyObject*, most_parameters> references_to_{};  // borrowed from the caller
+    Slots slots_;
 };
 
 }  // namespace cvdeveloper::python

@@ -12,12 +12,14 @@ namespace cvdeveloper::python {
 
 namespace {
 
-// The classes that callers make themselves.
+// The classes that callers make themselves. A derived class may have an __init__ with arguments.
 template <class T>
 PyObject* construct(PyTypeObject* type, PyObject* arguments, PyObject* keywords) {
     State& state = state_of(type);
     return guarded(state, [&] {
-        if (PyTuple_GET_SIZE(arguments) > 0 || (keywords != nullptr && PyDict_Size(keywords) > 0)) {
+        const bool given =
+            PyTuple_GET_SIZE(arguments) > 0 || (keywords != nullptr && PyDict_Size(keywords) > 0);
+        if (given && type->tp_init == PyBaseObject_Type.tp_init) {
             raise(RuntimeError::WrongArgumentCount, T::automation_name);
         }
         return make_instance(state, type, make_object<T>());

@@ -2,9 +2,11 @@
 
 #include <datetime.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 
 #include "cvdeveloper/automation/runtime_errors.h"
 
@@ -24,6 +26,16 @@ std::int64_t microseconds_of_day(PyObject* object) noexcept {
         PyDateTime_DATE_GET_HOUR(object) * 60 + PyDateTime_DATE_GET_MINUTE(object);
     const std::int64_t seconds = minutes * 60 + PyDateTime_DATE_GET_SECOND(object);
     return seconds * microseconds_per_second + PyDateTime_DATE_GET_MICROSECOND(object);
+}
+
+// A sum of days and minutes misses the second that it stands for by a rounding or two, which is a
+// microsecond in our time and more in later centuries.
+std::int64_t whole_second_near(std::int64_t microseconds, double days) noexcept {
+    const double step = std::nextafter(std::abs(days), HUGE_VAL) - std::abs(days);
+    const auto near = std::max<std::int64_t>(1, std::llround(step * microseconds_per_day));
+    const std::int64_t second = (microseconds + microseconds_per_second / 2) /
+                                microseconds_per_second * microseconds_per_second;
+    return std::abs(microseconds - second) <= near ? second : microseconds;
 }
 
 }  // namespace
@@ -63,6 +75,7 @@ Owned date_to_python(Date date) {
     if (std::isfinite(date.days)) {
         microseconds = std::llround(std::abs(date.days - day) * microseconds_per_day);
     }
+    microseconds = whole_second_near(microseconds, date.days);
     if (microseconds == microseconds_per_day) {
         day += 1;
         microseconds = 0;

@@ -43,7 +43,14 @@ class PythonInterrupt final : public Interrupt {
     std::shared_ptr<const HeldException> held_;
 };
 
+void ensure_raised() noexcept {
+    if (PyErr_Occurred() == nullptr) {
+        PyErr_SetString(PyExc_SystemError, "an error was announced and none raised");
+    }
+}
+
 Owned take_exception() {
+    ensure_raised();
     PyObject* type = nullptr;
     PyObject* value = nullptr;
     PyObject* traceback = nullptr;
@@ -61,7 +68,7 @@ Owned take_exception() {
 std::string text_or_nothing(Owned object) {
     const Owned text = object ? Owned::steal(PyObject_Str(object.get())) : Owned();
     if (!text) {
-        PyErr_Clear();
+        drop_exception();
         return {};
     }
     return text_of_python(text.get()).value_or(std::string());
@@ -75,7 +82,7 @@ std::int32_t number_of(PyObject* exception) {
     const Owned number = Owned::steal(PyObject_GetAttrString(exception, "number"));
     const long value = number ? PyLong_AsLong(number.get()) : -1;
     if (PyErr_Occurred() != nullptr) {
-        PyErr_Clear();
+        drop_exception();
         return foreign_error_number;
     }
     return static_cast<std::int32_t>(value);
@@ -109,9 +116,7 @@ void raise_in_python_as(State& state, PyObject* type) noexcept {
     try {
         throw;
     } catch (const PythonError&) {
-        if (PyErr_Occurred() == nullptr) {
-            PyErr_SetString(PyExc_SystemError, "an error was announced and none raised");
-        }
+        ensure_raised();
     } catch (const AutomationError& error) {
         raise_error(type, error);
     } catch (const PythonInterrupt& interrupt) {
@@ -126,25 +131,58 @@ void raise_in_python_as(State& state, PyObject* type) noexcept {
     }
 }
 
+// The exception as the library knows errors.
+AutomationError error_of(State& state, const Owned& exception) {
+    PyObject* raised = exception.get();
+    const auto held = std::make_shared<const HeldException>(exception);
+    if (state.automation_error && PyObject_TypeCheck(raised, state.automation_error.type())) {
+        return {number_of(raised), attribute_text(raised, "source"),
+                attribute_text(raised, "description"), held};
+    }
+    return {foreign_error_number, Py_TYPE(raised)->tp_name, text_or_nothing(exception), held};
+}
+
+bool is_for_programs(PyObject* exception) noexcept {
+    return PyType_IsSubtype(Py_TYPE(exception), reinterpret_cast<PyTypeObject*>(PyExc_Exception)) !=
+           0;
+}
+
 }  // namespace
 
 void throw_python_exception(State& state) {
     const Owned exception = take_exception();
-    PyObject* raised = exception.get();
-    const auto held = std::make_shared<const HeldException>(exception);
-    if (PyObject_IsInstance(raised, PyExc_Exception) != 1) {
-        throw PythonInterrupt(held);
+    if (!is_for_programs(exception.get())) {
+        throw PythonInterrupt(std::make_shared<const HeldException>(exception));
     }
-    if (state.automation_error && PyObject_IsInstance(raised, state.automation_error.get()) == 1) {
-        throw AutomationError(number_of(raised), attribute_text(raised, "source"),
-                              attribute_text(raised, "description"), held);
+    try {
+        throw error_of(state, exception);
+    } catch (const PythonError&) {  // an interrupt, while the exception was asked for its text
+        throw_interrupt_of_python();
     }
-    throw AutomationError(foreign_error_number, Py_TYPE(raised)->tp_name,
-                          text_or_nothing(exception), held);
 }
 
 void throw_interrupt_of_python() {
     throw PythonInterrupt(std::make_shared<const HeldException>(take_exception()));
+}
+
+void drop_exception(PyObject* expected) {
+    if (PyErr_ExceptionMatches(expected) == 0) {
+        throw PythonError{};
+    }
+    PyErr_Clear();
+}
+
+RaisedException::~RaisedException() {
+    Py_XDECREF(type_);
+    Py_XDECREF(value_);
+    Py_XDECREF(traceback_);
+}
+
+void RaisedException::raise_again() const noexcept {
+    Py_XINCREF(type_);
+    Py_XINCREF(value_);
+    Py_XINCREF(traceback_);
+    PyErr_Restore(type_, value_, traceback_);
 }
 
 void raise_in_python(State& state) noexcept {

@@ -15,6 +15,26 @@ constexpr std::int32_t foreign_error_number = 440;
 // Throws the exception that a signal's handler has raised, as an Interrupt whatever it is.
 [[noreturn]] void throw_interrupt_of_python();
 
+// Drops the exception that the interpreter has raised, where it is of the kind that was expected.
+// Any other unwinds: above all a KeyboardInterrupt, which can come out of any Python code.
+void drop_exception(PyObject* expected = PyExc_Exception);
+
+// The exception that the interpreter has raised, put aside.
+class RaisedException {
+  public:
+    RaisedException() noexcept { PyErr_Fetch(&type_, &value_, &traceback_); }
+    RaisedException(const RaisedException&) = delete;
+    RaisedException& operator=(const RaisedException&) = delete;
+    ~RaisedException();
+
+    void raise_again() const noexcept;
+
+  private:
+    PyObject* type_ = nullptr;
+    PyObject* value_ = nullptr;
+    PyObject* traceback_ = nullptr;
+};
+
 // Raises, in the interpreter, the C++ exception that is being handled.
 void raise_in_python(State& state) noexcept;
 

@@ -19,10 +19,6 @@ Instance& instance(PyObject* self) noexcept {
     return *reinterpret_cast<Instance*>(self);
 }
 
-bool is_instance(PyObject* object) noexcept {
-    return Py_TYPE(object)->tp_dealloc == deallocate_instance;
-}
-
 // Lets the library object go. What goes with it may run Python code of any kind.
 void let_go(Instance& self) {
     if (!self.object) {
@@ -43,6 +39,15 @@ PyMemberDef instance_members[] = {
     {"__weaklistoffset__", T_PYSSIZET, offsetof(Instance, weak_references), READONLY, nullptr},
     {nullptr, 0, 0, 0, nullptr},
 };
+
+bool is_instance(PyObject* object) noexcept {
+    for (const PyTypeObject* type = Py_TYPE(object); type != nullptr; type = type->tp_base) {
+        if (type->tp_dealloc == deallocate_instance) {
+            return true;
+        }
+    }
+    return false;
+}
 
 Object& object_of(PyObject* self) {
     const ObjectRef& object = instance(self).object;
@@ -86,10 +91,11 @@ void deallocate_instance(PyObject* self) {
     PyTypeObject* type = Py_TYPE(self);
     PyObject_GC_UnTrack(self);
     Instance& dying = instance(self);
-    let_go(dying);
+    // First, so that no code which runs while the object goes can get hold of this one again.
     if (dying.weak_references != nullptr) {
         PyObject_ClearWeakRefs(self);
     }
+    let_go(dying);
     std::destroy_at(&dying.object);
     std::destroy_at(&dying.state);
     type->tp_free(self);

@@ -15,6 +15,10 @@ struct Instance {
     ObjectRef object;  // nothing after the garbage collector has taken it
 };
 
+// Whether a Python object stands for an object: is of one of these types, or of a class that Python
+// code has derived from one.
+bool is_instance(PyObject* object) noexcept;
+
 // The object of a library type's instance. Error 91 after the garbage collector has taken it.
 Object& object_of(PyObject* instance);
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "cvdeveloper/automation/conversions.h"
 #include "cvdeveloper/automation/runtime_errors.h"
 #include "cvdeveloper/host/record_set.h"
 #include "errors.h"
@@ -23,7 +24,7 @@ State& state_of_instance(PyObject* self) noexcept {
 class UsedRecordSet {
   public:
     explicit UsedRecordSet(PyObject* instance)
-        : object_(ObjectRef(&object_of(instance))), lock_(guard_of(*object_)) {
+        : object_(object_behind(instance)), lock_(guard_of(*object_)) {
         api_ = dynamic_cast<host::RecordSet*>(object_.get());
         if (api_ == nullptr) {
             raise(RuntimeError::ObjectRequired);
@@ -32,6 +33,12 @@ class UsedRecordSet {
     host::RecordSet* operator->() const noexcept { return api_; }
 
   private:
+    static ObjectRef object_behind(PyObject* instance) {
+        if (!is_instance(instance)) {
+            raise(RuntimeError::ObjectRequired);
+        }
+        return ObjectRef(&object_of(instance));
+    }
     static std::recursive_mutex* guard_of(Object& object) {
         auto* of_library = dynamic_cast<LibraryObject*>(&object);
         return of_library == nullptr ? nullptr : of_library->guard();
@@ -45,11 +52,12 @@ class UsedRecordSet {
 // Positions from 0, or a name.
 Variant read_field(const UsedRecordSet& rs, PyObject* key) {
     if (PyLong_Check(key)) {
-        const long position = PyLong_AsLong(key);
+        const long long position = PyLong_AsLongLong(key);
         if (position == -1 && PyErr_Occurred() != nullptr) {
-            throw PythonError{};
+            drop_exception(PyExc_OverflowError);
+            raise(RuntimeError::Overflow, "Feldnummer");
         }
-        return rs->value_at(static_cast<std::int32_t>(position));
+        return rs->value_at(to_int32(static_cast<double>(position)));
     }
     const auto name = PyUnicode_Check(key) ? view_of_python(key) : std::nullopt;
     if (!name) {

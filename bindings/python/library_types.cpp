@@ -29,22 +29,35 @@ bool has_member_spelt(const InterfaceTable& table, std::string_view name) {
     return false;
 }
 
-// Turns the interpreter's AttributeError into the error of a missing member, which names the
-// nearest ones. Python's own protocols keep theirs, and so does a member that raised one itself.
-void explain_missing_member(PyObject* self, PyObject* name) {
+// Whether the interface or a class derived from it has the name. Needs the error indicator clear.
+bool has_member(PyObject* self, const InterfaceTable& table, PyObject* name,
+                std::string_view member) {
+    return has_member_spelt(table, member) ||
+           (Py_TYPE(self)->tp_dealloc != deallocate_instance &&
+            PyObject_HasAttr(reinterpret_cast<PyObject*>(Py_TYPE(self)), name) != 0);
+}
+
+// Turns the interpreter's AttributeError into error 438; one for a missing member names the nearest
+// ones. Python's own protocols keep theirs, and so does the reading of a member that raises one.
+void explain_attribute_error(PyObject* self, PyObject* name, bool writing) {
     if (PyErr_ExceptionMatches(PyExc_AttributeError) == 0) {
         return;
     }
     const Instance& instance = *reinterpret_cast<Instance*>(self);
     const auto* object = dynamic_cast<const LibraryObject*>(instance.object.get());
     const std::string_view member = view_of_python(name).value_or(std::string_view());
-    if (object == nullptr || member.starts_with("__") ||
-        has_member_spelt(object->table(), member)) {
+    if (object == nullptr || member.starts_with("__")) {
         return;
     }
-    PyErr_Clear();
+    const RaisedException raised;
     try {
-        object->table().raise_no_such_member(member);
+        if (!has_member(self, object->table(), name, member)) {
+            object->table().raise_no_such_member(member);
+        }
+        if (writing && has_member_spelt(object->table(), member)) {
+            raise(RuntimeError::NoSuchMember, member);
+        }
+        raised.raise_again();
     } catch (const std::exception&) {
         raise_no_attribute(*instance.state);
     }
@@ -53,7 +66,7 @@ void explain_missing_member(PyObject* self, PyObject* name) {
 PyObject* get_member(PyObject* self, PyObject* name) {
     PyObject* value = PyObject_GenericGetAttr(self, name);
     if (value == nullptr) {
-        explain_missing_member(self, name);
+        explain_attribute_error(self, name, false);
     }
     return value;
 }
@@ -61,7 +74,7 @@ PyObject* get_member(PyObject* self, PyObject* name) {
 int set_member(PyObject* self, PyObject* name, PyObject* value) {
     const int status = PyObject_GenericSetAttr(self, name, value);
     if (status < 0) {
-        explain_missing_member(self, name);
+        explain_attribute_error(self, name, true);
     }
     return status;
 }
@@ -88,10 +101,6 @@ State& state_of(PyObject* module) {
     return **static_cast<std::shared_ptr<State>*>(PyModule_GetState(module));
 }
 
-State& state_of(PyTypeObject* type) {
-    return **static_cast<std::shared_ptr<State>*>(PyType_GetModuleState(type));
-}
-
 Owned make_library_type(State& state, PyObject* module, LibraryObject& sample, newfunc constructor,
                         PyMethodDef* methods) {
     const InterfaceTable& table = sample.table();
@@ -114,7 +123,8 @@ Owned make_library_type(State& state, PyObject* module, LibraryObject& sample, n
     }
     add_item_slots(sample, slots);
     slots.push_back({0, nullptr});
-    const unsigned long flags = constructor != nullptr ? 0UL : Py_TPFLAGS_DISALLOW_INSTANTIATION;
+    const unsigned long flags =
+        constructor != nullptr ? Py_TPFLAGS_BASETYPE : Py_TPFLAGS_DISALLOW_INSTANTIATION;
     PyType_Spec spec{name.c_str(), sizeof(Instance), 0,
                      static_cast<unsigned>(Py_TPFLAGS_DEFAULT | Py_TPFLAGS_HAVE_GC | flags),
                      slots.data()};

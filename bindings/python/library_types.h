@@ -5,11 +5,12 @@
 
 namespace cvdeveloper::python {
 
-// The module behind the types, for what is only known there.
+// The module behind the types, for what is only known there. The type may be derived from one.
 State& state_of(PyObject* module);
 State& state_of(PyTypeObject* type);
 
-// Makes a type from a table. Without a constructor its instances come from the library alone.
+// Makes a type from a table. Without a constructor its instances come from the library alone and
+// no class derives from it.
 Owned make_library_type(State& state, PyObject* module, LibraryObject& sample, newfunc constructor,
                         PyMethodDef* methods = nullptr);
 

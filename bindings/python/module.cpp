@@ -65,7 +65,19 @@ void clear_registry_at_exit(PyObject* module) {
     checked(PyObject_CallOneArg(register_exit.get(), let_go.get()));
 }
 
+// The registry and the lock's hook are the process's, and serve one interpreter.
+bool is_main_interpreter() {
+    if (PyInterpreterState_Get() == PyInterpreterState_Main()) {
+        return true;
+    }
+    PyErr_SetString(PyExc_ImportError, "cvdeveloper works in the main interpreter only");
+    return false;
+}
+
 int set_up(PyObject* module) {
+    if (!is_main_interpreter()) {
+        return -1;
+    }
     std::construct_at(&shared_state(module), std::make_shared<State>());
     State& state = *shared_state(module);
     return guarded(state, -1, [&] {
@@ -140,6 +152,10 @@ PyModuleDef definition = {
 };
 
 }  // namespace
+
+State& state_of(PyTypeObject* type) {
+    return *shared_state(PyType_GetModuleByDef(type, &definition));
+}
 
 }  // namespace cvdeveloper::python
 

@@ -181,7 +181,6 @@ Owned make_property_type(PyObject* module, const char* name, descrgetfunc get) {
     std::array slots{
         PyType_Slot{Py_tp_dealloc, reinterpret_cast<void*>(deallocate_descriptor)},
         PyType_Slot{Py_tp_traverse, reinterpret_cast<void*>(traverse_descriptor)},
-        PyType_Slot{Py_tp_clear, reinterpret_cast<void*>(clear_descriptor)},
         PyType_Slot{Py_tp_repr, reinterpret_cast<void*>(represent_descriptor)},
         PyType_Slot{Py_tp_getset, descriptor_attributes},
         PyType_Slot{Py_tp_descr_get, reinterpret_cast<void*>(get)},

@@ -7,6 +7,7 @@
 #include "errors.h"
 #include "gil.h"
 #include "host_call.h"
+#include "instances.h"
 #include "texts.h"
 #include "values.h"
 
@@ -19,7 +20,7 @@ std::vector<std::string> names_of(PyObject* object) {
     std::vector<std::string> names;
     const Owned list = Owned::steal(PyObject_Dir(object));
     if (!list) {
-        PyErr_Clear();
+        drop_exception();
         return names;
     }
     for (Py_ssize_t i = 0; i < PyList_GET_SIZE(list.get()); ++i) {
@@ -61,15 +62,22 @@ std::string spelling_of(const std::vector<std::string>& names, std::string_view 
 
 // Whether the class or the instance's own dictionary has the name; runs no code of the object.
 bool has_name(PyObject* object, PyObject* name) {
-    if (PyObject_HasAttr(reinterpret_cast<PyObject*>(Py_TYPE(object)), name) != 0) {
+    auto* type = reinterpret_cast<PyObject*>(Py_TYPE(object));
+    if (Owned::steal(PyObject_GetAttr(type, name))) {
         return true;
     }
+    drop_exception();
     const Owned own = Owned::steal(PyObject_GenericGetDict(object, nullptr));
     if (!own) {
-        PyErr_Clear();
+        drop_exception();
         return false;
     }
     return PyDict_Contains(own.get(), name) == 1;
+}
+
+// Whether the object takes names that neither it nor its class has yet.
+bool takes_any_name(PyObject* object) noexcept {
+    return Py_TYPE(object)->tp_setattro != PyObject_GenericSetAttr;
 }
 
 }  // namespace
@@ -118,10 +126,11 @@ Owned PythonObject::find(std::string_view member) const {
         throw PythonError{};
     }
     // Either there is no such member, or the code behind it has raised this.
+    const RaisedException raised;
     if (has_name(object_, name.get())) {
+        raised.raise_again();
         throw PythonError{};
     }
-    PyErr_Clear();
     const std::vector<std::string> names = names_of(object_);
     const std::string spelling = spelling_of(names, member);
     if (spelling.empty()) {
@@ -132,13 +141,14 @@ Owned PythonObject::find(std::string_view member) const {
 
 Variant PythonObject::read_or_call(std::string_view member, Arguments arguments) {
     const Owned found = find(member);
-    if (PyCallable_Check(found.get()) != 0) {
+    // A record set of the library's can be called, rs("Name"), and is a value all the same.
+    if (PyCallable_Check(found.get()) != 0 && !is_instance(found.get())) {
         return HostCall(*state_, arguments).run(found.get());
     }
     if (arguments.values.empty()) {
         return host_result(*state_, found.get());
     }
-    if (PyObject_HasAttrString(found.get(), "__getitem__") == 0) {
+    if (PyMapping_Check(found.get()) == 0) {
         raise(RuntimeError::WrongArgumentCount,
               std::string(class_name()) + "." + std::string(member));
     }
@@ -147,13 +157,18 @@ Variant PythonObject::read_or_call(std::string_view member, Arguments arguments)
 
 Owned PythonObject::spelling_to_write(std::string_view member) const {
     Owned name = name_to_python(member);
-    if (!has_name(object_, name.get())) {
-        if (const std::string spelling = spelling_of(names_of(object_), member);
-            !spelling.empty()) {
-            return name_to_python(spelling);
-        }
+    if (has_name(object_, name.get())) {
+        return name;
     }
-    return name;
+    const std::vector<std::string> names = names_of(object_);
+    const std::string spelling = spelling_of(names, member);
+    if (spelling.empty()) {
+        if (!takes_any_name(object_)) {
+            raise_missing(class_name(), member, names);
+        }
+        return name;
+    }
+    return name_to_python(spelling);
 }
 
 void PythonObject::put(std::string_view member, Arguments arguments) {

@@ -1,11 +1,16 @@
 #include "registry.h"
 
+#include <array>
+#include <string>
+#include <utility>
+
 #include "cvdeveloper/automation/class_registry.h"
 #include "cvdeveloper/automation/conversions.h"
 #include "cvdeveloper/automation/runtime_errors.h"
 #include "errors.h"
 #include "host/folder/create_folder.h"
 #include "host/register.h"
+#include "host/session/application.h"
 #include "library_types.h"
 #include "python_object.h"
 #include "texts.h"
@@ -23,6 +28,20 @@ std::string_view class_name_of(PyObject* name) {
     return *text;
 }
 
+// Borrowed from the call.
+std::pair<PyObject*, PyObject*> two_arguments(PyObject* arguments, PyObject* keywords,
+                                              const char* format,
+                                              std::pair<std::string, std::string> names) {
+    std::array<char*, 3> list{names.first.data(), names.second.data(), nullptr};
+    PyObject* first = nullptr;
+    PyObject* second = nullptr;
+    if (PyArg_ParseTupleAndKeywords(arguments, keywords, format, list.data(), &first, &second) ==
+        0) {
+        throw PythonError{};
+    }
+    return {first, second};
+}
+
 Ref<PythonObject> callable(State& state, PyObject* object) {
     if (PyCallable_Check(object) == 0) {
         raise(RuntimeError::TypeMismatch, "erwartet wird etwas Aufrufbares");
@@ -30,14 +49,11 @@ Ref<PythonObject> callable(State& state, PyObject* object) {
     return make_object<PythonObject>(state.shared_from_this(), object);
 }
 
-PyObject* register_class_from_python(PyObject* module, PyObject* arguments) {
+PyObject* register_class_from_python(PyObject* module, PyObject* arguments, PyObject* keywords) {
     State& state = state_of(module);
     return guarded(state, [&] {
-        PyObject* name = nullptr;
-        PyObject* factory = nullptr;
-        if (PyArg_ParseTuple(arguments, "OO:register_class", &name, &factory) == 0) {
-            throw PythonError{};
-        }
+        const auto [name, factory] =
+            two_arguments(arguments, keywords, "OO:register_class", {"progid", "factory"});
         if (factory == Py_None) {
             register_class(class_name_of(name), {});
         } else {
@@ -49,14 +65,12 @@ PyObject* register_class_from_python(PyObject* module, PyObject* arguments) {
     });
 }
 
-PyObject* register_active_object_from_python(PyObject* module, PyObject* arguments) {
+PyObject* register_active_object_from_python(PyObject* module, PyObject* arguments,
+                                             PyObject* keywords) {
     State& state = state_of(module);
     return guarded(state, [&] {
-        PyObject* name = nullptr;
-        PyObject* object = nullptr;
-        if (PyArg_ParseTuple(arguments, "OO:register_active_object", &name, &object) == 0) {
-            throw PythonError{};
-        }
+        const auto [name, object] =
+            two_arguments(arguments, keywords, "OO:register_active_object", {"progid", "obj"});
         try {
             register_active_object(class_name_of(name), object_of_python(state, object));
         } catch (const NoSuchValue& failure) {
@@ -117,6 +131,24 @@ PyObject* create_host_folder(PyObject* module, PyObject* arguments) {
     });
 }
 
+PyObject* start_host_application(PyObject* module, PyObject* arguments) {
+    State& state = state_of(module);
+    return guarded(state, [&] {
+        const char* folder = nullptr;
+        const char* user = nullptr;
+        const char* password = nullptr;
+        if (PyArg_ParseTuple(arguments, "sss:start", &folder, &user, &password) == 0) {
+            throw PythonError{};
+        }
+        return object_to_python(state, standalone::start_application(folder, user, password));
+    });
+}
+
+// The interpreter casts it back by the flags that stand beside it.
+PyCFunction as_function(PyCFunctionWithKeywords function) noexcept {
+    return reinterpret_cast<PyCFunction>(reinterpret_cast<void (*)()>(function));
+}
+
 // At the interpreter's exit: what the registry keeps must not outlive it.
 PyObject* let_go_of_everything(PyObject* module, PyObject*) {
     return guarded(state_of(module), [] {
@@ -129,11 +161,12 @@ PyObject* let_go_of_everything(PyObject* module, PyObject*) {
 }  // namespace
 
 PyMethodDef registry_functions[] = {
-    {"register_class", register_class_from_python, METH_VARARGS,
+    {"register_class", as_function(register_class_from_python), METH_VARARGS | METH_KEYWORDS,
      "register_class(progid, factory)\n--\n\n"
      "Has factory() called whenever the library creates an object of that class name; None takes "
      "the class out. Names without regard to case."},
-    {"register_active_object", register_active_object_from_python, METH_VARARGS,
+    {"register_active_object", as_function(register_active_object_from_python),
+     METH_VARARGS | METH_KEYWORDS,
      "register_active_object(progid, obj)\n--\n\n"
      "Makes obj what the library finds as the running object of that class name; None takes it "
      "out."},
@@ -144,6 +177,7 @@ PyMethodDef registry_functions[] = {
      "set_message_handler(handler)\n--\n\n"
      "Has handler(text) called for each message box; None restores standard error."},
     {"_create_host_folder", create_host_folder, METH_VARARGS, nullptr},
+    {"_start_host_application", start_host_application, METH_VARARGS, nullptr},
     {"_messages_of", messages_of, METH_O, nullptr},
     {"_let_go_of_everything", let_go_of_everything, METH_NOARGS, nullptr},
     {nullptr, nullptr, 0, nullptr},

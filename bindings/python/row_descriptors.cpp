@@ -55,7 +55,9 @@ Owned& type_of_descriptor(State& state, const Operation* read) {
     if (read != nullptr && read->kind == OperationKind::Method) {
         return state.method_type;
     }
-    return read != nullptr && !read->parameters.empty() ? state.indexed_type : state.attribute_type;
+    // Where the index may be left out, the attribute is the whole: rs.Fields, rs.Fields["DSN"].
+    return read != nullptr && read->required_arguments() > 0 ? state.indexed_type
+                                                             : state.attribute_type;
 }
 
 }  // namespace
@@ -102,11 +104,6 @@ int traverse_descriptor(PyObject* self, visitproc visit, void* arg) {
     return 0;
 }
 
-int clear_descriptor(PyObject* self) {
-    descriptor(self).owner = Owned();
-    return 0;
-}
-
 PyObject* represent_descriptor(PyObject* self) {
     const RowDescriptor& row = descriptor(self);
     return guarded(*row.state, [&] {
@@ -118,7 +115,7 @@ PyObject* represent_descriptor(PyObject* self) {
 }
 
 Object& target_of(const RowDescriptor& self, PyObject* instance) {
-    if (!Py_IS_TYPE(instance, self.owner.type())) {
+    if (!PyObject_TypeCheck(instance, self.owner.type())) {
         raise(RuntimeError::ObjectRequired, self.row().name);
     }
     return object_of(instance);

@@ -30,10 +30,10 @@ Owned make_attribute_type(PyObject* module);
 Owned make_indexed_type(PyObject* module);
 Owned make_bound_indexed_type(PyObject* module);
 
-// Slots and attributes (name, documentation, signature) that the three have in common.
+// Slots and attributes (name, documentation, signature) that the three have in common. They hold
+// their type and the type holds them: the garbage collector breaks the circle in the type.
 void deallocate_descriptor(PyObject* self);
 int traverse_descriptor(PyObject* self, visitproc visit, void* arg);
-int clear_descriptor(PyObject* self);
 PyObject* represent_descriptor(PyObject* self);
 extern PyGetSetDef descriptor_attributes[];
 

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "dates.h"
+#include "errors.h"
 #include "instances.h"
 #include "python_object.h"
 #include "texts.h"
@@ -135,7 +136,8 @@ Owned value_to_python(State& state, const Variant& value, const TypeName& type) 
                     Owned::steal(PyObject_CallOneArg(found->second.get(), plain.get()))) {
                 return member;
             }
-            PyErr_Clear();  // a number that the enumeration does not name stays a number
+            // A number that the enumeration does not name stays a number.
+            drop_exception(PyExc_ValueError);
         }
     }
     return plain;

@@ -223,7 +223,10 @@ void ClientRecordSet::set_at(std::size_t position, const Variant& value) {
     cell = written;
 }
 
-void ClientRecordSet::mark_saved(std::span<const std::int64_t> versions) noexcept {
+void ClientRecordSet::mark_saved(const SavedChanges& saved) {
+    for (const HostValue& value : saved.host_values) {
+        show_host_value(value);
+    }
     for (std::size_t i = 0; i < changes_.size(); ++i) {
         const std::size_t row = changes_[i].row;
         if (is_deleted(states_[row])) {
@@ -235,10 +238,24 @@ void ClientRecordSet::mark_saved(std::span<const std::int64_t> versions) noexcep
             cell.changed = false;
         }
         if (shape_->version() != Shape::npos) {
-            Rows::set_integer(rows_[row][shape_->version()], versions[i]);
+            Rows::set_integer(rows_[row][shape_->version()], saved.versions[i]);
         }
     }
     changes_.clear();
+}
+
+void ClientRecordSet::show_host_value(const HostValue& value) {
+    for (std::size_t i = 0; i < shape_->columns().size(); ++i) {
+        const Column& column = shape_->columns()[i];
+        if (column.writable && column.table_column == value.column) {
+            Cell& cell = rows_[value.row][i];
+            if (value.text) {
+                rows_.set_text(cell, *value.text);
+            } else {
+                Rows::set_null(cell);
+            }
+        }
+    }
 }
 
 void ClientRecordSet::update() {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -20,6 +21,19 @@ enum class RowState : std::uint8_t {
     Changed,
     Deleted,
     Gone,  // deleted in the database, or added and deleted without being saved
+};
+
+// A value that the host gives a column of a saved row by itself.
+struct HostValue {
+    std::size_t row;
+    std::size_t column;               // of the table
+    std::optional<std::string> text;  // nothing is null
+};
+
+// What writing a record set's changes has left in the database.
+struct SavedChanges {
+    std::vector<std::int64_t> versions;  // the rows' new STAMPs, in the changes' order
+    std::vector<HostValue> host_values;
 };
 
 // A complete record set. Its rows were read when the statement ran; changes stay here until the
@@ -62,8 +76,8 @@ class ClientRecordSet final : public LibraryObject, public host::RecordSet {
     [[nodiscard]] std::span<const Change> changes() const noexcept { return changes_; }
     [[nodiscard]] RowState state(std::size_t row) const noexcept;
     [[nodiscard]] std::span<const Cell> cells(std::size_t row) const noexcept { return rows_[row]; }
-    // All changes are in the database; versions are the rows' new STAMPs, in the changes' order.
-    void mark_saved(std::span<const std::int64_t> versions) noexcept;
+    // All changes are in the database.
+    void mark_saved(const SavedChanges& saved);
 
     [[nodiscard]] std::size_t position_of(const Variant& name_or_position) const;
     [[nodiscard]] const Cell& current_cell(std::size_t position) const;
@@ -76,6 +90,7 @@ class ClientRecordSet final : public LibraryObject, public host::RecordSet {
     [[nodiscard]] bool is_visible(std::size_t row) const noexcept;
     void require_open() const;
     void require_current_row() const;
+    void show_host_value(const HostValue& value);
     void note_change(RowState state, std::span<const Cell> original);
 
     std::shared_ptr<const Shape> shape_;

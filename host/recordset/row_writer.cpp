@@ -1,5 +1,7 @@
 #include "host/recordset/row_writer.h"
 
+#include <algorithm>
+
 #include "cvdeveloper/automation/conversions.h"
 #include "host/errors.h"
 #include "host/recordset/column_values.h"
@@ -44,8 +46,17 @@ void append_identity(std::string& text, std::vector<Value>& values, const Shape&
     }
 }
 
-bool is_written(const Shape& shape, std::size_t column, const Cell& cell) {
-    return cell.changed && column != shape.version();
+// The host's own values are written besides.
+bool is_written(const Shape& shape, std::size_t column, const Cell& cell,
+                std::span<const HostValue> host_values) {
+    return cell.changed && column != shape.version() &&
+           std::ranges::none_of(host_values, [&](const HostValue& value) {
+               return value.column == shape.columns()[column].table_column;
+           });
+}
+
+Value value_of(const HostValue& value) {
+    return value.text ? Value(std::string_view(*value.text)) : Value();
 }
 
 // A value as a conflict's message quotes it.
@@ -61,29 +72,61 @@ std::string shown(const Cell& cell, ColumnType type) {
 
 }  // namespace
 
-std::vector<std::int64_t> RowWriter::write(const ClientRecordSet& record_set) {
-    require_key(record_set.shape());
-    std::vector<std::int64_t> versions;
-    versions.reserve(record_set.changes().size());
-    for (const ClientRecordSet::Change& change : record_set.changes()) {
-        std::int64_t version = 0;
-        switch (record_set.state(change.row)) {
-            case RowState::Added:
-                version = insert(record_set, change.row);
-                break;
-            case RowState::Changed:
-                version = update(record_set, change);
-                break;
-            case RowState::Deleted:
-                remove(record_set, change);
-                break;
-            case RowState::Unchanged:
-            case RowState::Gone:
-                break;
+TableRule* RowWriter::rule_of(const Shape& shape) const noexcept {
+    for (const auto& rule : rules_) {
+        if (&rule->table() == shape.base()) {
+            return rule.get();
         }
-        versions.push_back(version);
     }
-    return versions;
+    return nullptr;
+}
+
+bool RowWriter::is_single_statement(const ClientRecordSet& record_set) const noexcept {
+    return record_set.changes().size() == 1 && rule_of(record_set.shape()) == nullptr;
+}
+
+SavedChanges RowWriter::write(const ClientRecordSet& record_set) {
+    require_key(record_set.shape());
+    TableRule* const rule = rule_of(record_set.shape());
+    SavedChanges saved;
+    saved.versions.reserve(record_set.changes().size());
+    for (const ClientRecordSet::Change& change : record_set.changes()) {
+        if (rule == nullptr) {
+            saved.versions.push_back(write_row(record_set, change, {}));
+            continue;
+        }
+        const RowChange row(record_set, change);
+        if (row.state() == RowState::Gone) {
+            saved.versions.push_back(0);
+            continue;
+        }
+        const std::size_t first = saved.host_values.size();
+        if (row.state() != RowState::Deleted) {
+            rule->add_values(row, saved.host_values);
+        }
+        saved.versions.push_back(
+            write_row(record_set, change, std::span(saved.host_values).subspan(first)));
+        rule->follow(row);
+    }
+    return saved;
+}
+
+std::int64_t RowWriter::write_row(const ClientRecordSet& record_set,
+                                  const ClientRecordSet::Change& change,
+                                  std::span<const HostValue> host_values) {
+    switch (record_set.state(change.row)) {
+        case RowState::Added:
+            return insert(record_set, change.row, host_values);
+        case RowState::Changed:
+            return update(record_set, change, host_values);
+        case RowState::Deleted:
+            remove(record_set, change);
+            break;
+        case RowState::Unchanged:
+        case RowState::Gone:
+            break;
+    }
+    return 0;
 }
 
 std::int64_t RowWriter::execute() {
@@ -93,7 +136,8 @@ std::int64_t RowWriter::execute() {
     return entry.statement->execute(values_);
 }
 
-std::int64_t RowWriter::insert(const ClientRecordSet& record_set, std::size_t row) {
+std::int64_t RowWriter::insert(const ClientRecordSet& record_set, std::size_t row,
+                               std::span<const HostValue> host_values) {
     const Shape& shape = record_set.shape();
     const auto cells = record_set.cells(row);
     text_ = "INSERT INTO ";
@@ -107,12 +151,18 @@ std::int64_t RowWriter::insert(const ClientRecordSet& record_set, std::size_t ro
             raise(HostError::ValueRefused, shape.base()->name() + "." + column.name +
                                                " ist ein Pflichtfeld und nimmt kein Null auf.");
         }
-        if (is_written(shape, i, cells[i])) {
+        if (is_written(shape, i, cells[i], host_values)) {
             text_ += separator;
             append_name(text_, column.name_in_table());
             values_.push_back(cells[i].value());
             separator = ',';
         }
+    }
+    for (const HostValue& value : host_values) {
+        text_ += separator;
+        append_name(text_, shape.base()->columns()[value.column].name);
+        values_.push_back(value_of(value));
+        separator = ',';
     }
     text_ += ") VALUES (?";
     for (std::size_t i = 1; i < values_.size(); ++i) {
@@ -124,7 +174,8 @@ std::int64_t RowWriter::insert(const ClientRecordSet& record_set, std::size_t ro
 }
 
 std::int64_t RowWriter::update(const ClientRecordSet& record_set,
-                               const ClientRecordSet::Change& change) {
+                               const ClientRecordSet::Change& change,
+                               std::span<const HostValue> host_values) {
     const Shape& shape = record_set.shape();
     const auto cells = record_set.cells(change.row);
     const bool has_version = shape.version() != Shape::npos;
@@ -134,11 +185,16 @@ std::int64_t RowWriter::update(const ClientRecordSet& record_set,
     text_ += " SET ";
     values_.clear();
     for (std::size_t i = 0; i < cells.size(); ++i) {
-        if (is_written(shape, i, cells[i])) {
+        if (is_written(shape, i, cells[i], host_values)) {
             append_name(text_, shape.columns()[i].name_in_table());
             text_ += "=?,";
             values_.push_back(cells[i].value());
         }
+    }
+    for (const HostValue& value : host_values) {
+        append_name(text_, shape.base()->columns()[value.column].name);
+        text_ += "=?,";
+        values_.push_back(value_of(value));
     }
     if (values_.empty()) {
         return version - (has_version ? 1 : 0);

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/database/database.h"
 #include "host/database/statement_cache.h"
 #include "host/recordset/client_record_set.h"
+#include "host/recordset/table_rule.h"
 
 namespace cvdeveloper::standalone {
 
@@ -15,23 +18,33 @@ namespace cvdeveloper::standalone {
 // between is an error. A record set without STAMP writes without that check.
 class RowWriter {
   public:
-    explicit RowWriter(Database& database) : database_(database), statements_(200) {}
+    explicit RowWriter(Database& database, TableRules rules = {})
+        : database_(database), rules_(std::move(rules)), statements_(200) {}
 
     // Errors: NotUpdatable, RowChanged, ValueRefused, and the database's own. The caller brackets
     // it and tells the record set when everything is in the database.
-    std::vector<std::int64_t> write(const ClientRecordSet& record_set);
+    SavedChanges write(const ClientRecordSet& record_set);
+    // Whether writing the changes takes no more than one statement.
+    [[nodiscard]] bool is_single_statement(const ClientRecordSet& record_set) const noexcept;
 
   private:
     struct Nothing {};
 
-    std::int64_t insert(const ClientRecordSet& record_set, std::size_t row);
-    std::int64_t update(const ClientRecordSet& record_set, const ClientRecordSet::Change& change);
+    // Nothing for the tables that have no rule: nearly all.
+    [[nodiscard]] TableRule* rule_of(const Shape& shape) const noexcept;
+    std::int64_t write_row(const ClientRecordSet& record_set, const ClientRecordSet::Change& change,
+                           std::span<const HostValue> host_values);
+    std::int64_t insert(const ClientRecordSet& record_set, std::size_t row,
+                        std::span<const HostValue> host_values);
+    std::int64_t update(const ClientRecordSet& record_set, const ClientRecordSet::Change& change,
+                        std::span<const HostValue> host_values);
     void remove(const ClientRecordSet& record_set, const ClientRecordSet::Change& change);
     [[noreturn]] void raise_conflict(const ClientRecordSet& record_set,
                                      const ClientRecordSet::Change& change);
     std::int64_t execute();
 
     Database& database_;
+    TableRules rules_;
     StatementCache<Nothing> statements_;
     // Used again for each row.
     std::string text_;

@@ -965,6 +965,7 @@ CREATE TABLE Blob (
     datSaved           DATETIME
 );
 CREATE INDEX ix_Blob_uidLINK_DSN ON Blob (uidLINK_DSN);
+CREATE INDEX ix_Blob_strStoredName ON Blob (strStoredName);  -- is a file still needed?
 
 -- ----------------------------------------------------------------------------------------------
 -- The host's own tables. No script needs them; no statement of the library names them.

@@ -1,11 +1,7 @@
 #include "host/services/util.h"
 
-#include <sodium.h>
-
-#include <array>
-
 #include "cvdeveloper/automation/conversions.h"
-#include "host/errors.h"
+#include "host/keys.h"
 #include "platform/files.h"
 #include "platform/regional.h"
 
@@ -26,40 +22,15 @@ bool is_blank(const Variant& value) {
 }  // namespace
 
 std::string Util::SqlUid(std::string_view key) {
-    std::string literal = "'";
-    for (const char c : key) {
-        literal += c;
-        if (c == '\'') {
-            literal += c;
-        }
-    }
-    return literal += '\'';
+    return literal(key);
 }
 
 Variant Util::SqlStrNull(std::string_view text) {
     return text.empty() ? Variant(Null{}) : Variant(text);
 }
 
-// A random key (version 4): 8-4-4-4-12 digits in capitals.
 std::string Util::NewGUID() {
-    if (sodium_init() < 0) {
-        raise(HostError::Database, "Der Zufallsgenerator steht nicht zur Verfügung.");
-    }
-    std::array<unsigned char, 16> bytes{};
-    randombytes_buf(bytes.data(), bytes.size());
-    bytes[6] = static_cast<unsigned char>((bytes[6] & 0x0FU) | 0x40U);
-    bytes[8] = static_cast<unsigned char>((bytes[8] & 0x3FU) | 0x80U);
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string key;
-    key.reserve(36);
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        if (i == 4 || i == 6 || i == 8 || i == 10) {
-            key += '-';
-        }
-        key += digits[bytes[i] >> 4U];
-        key += digits[bytes[i] & 0x0FU];
-    }
-    return key;
+    return new_key();
 }
 
 void Util::Kill(std::string_view path) {

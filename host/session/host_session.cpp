@@ -6,6 +6,7 @@
 #include "cvdeveloper/automation/library_object.h"
 #include "cvdeveloper/automation/runtime_errors.h"
 #include "host/errors.h"
+#include "host/rules/address_rule.h"
 #include "host/session/users.h"
 
 namespace cvdeveloper::standalone {
@@ -52,21 +53,35 @@ Ref<HostSession> HostSession::log_on(std::string_view path, std::string_view use
     HostFolder folder = HostFolder::open(path);
     std::unique_ptr<Database> database = folder.open_database();
     std::string user_key = Users(*database).log_on(user, password);
-    return make_object<HostSession>(std::move(folder), std::move(database), std::move(user_key));
+    const auto session =
+        make_object<HostSession>(std::move(folder), std::move(database), std::move(user_key));
+    session->clean_up();
+    return session;
 }
 
 HostSession::HostSession(HostFolder folder, std::unique_ptr<Database> database,
                          std::string user_key)
     : folder_(std::move(folder)),
       database_(std::move(database)),
+      catalog_(database_->catalog()),
       user_key_(std::move(user_key)),
       owner_(std::make_shared<RecordSetOwner>()),
-      dictionary_(dictionary_of(*database_->catalog())),
+      dictionary_(dictionary_of(*catalog_)),
       reader_(dictionary_),
       statements_(cached_statements),
-      transactions_(*database_),
-      writer_(*database_),
+      transactions_(*database_, [this] { attachments_.settle(); }),
+      attachments_(*database_, transactions_, disk_path(folder_.path()) / "Anlagen"),
+      writer_(*database_, table_rules(*database_)),
       numbers_(*database_, folder_.settings().number_digits) {}
+
+// Nobody is kept from working by what another session has left behind.
+void HostSession::clean_up() {
+    try {
+        attachments_.clean_up();
+    } catch (const AutomationError&) {
+        return;
+    }
+}
 
 void HostSession::Unit::enter() {
     const GuardLock lock(session_.guard());
@@ -116,7 +131,7 @@ StatementCache<HostSession::Read>::Entry HostSession::prepare(std::string_view t
     if (statement->parameter_count() != values) {
         raise(HostError::StatementRefused, "Platzhalter ohne Wert sind nicht erlaubt.");
     }
-    Read read{.shape = std::make_shared<Shape>(statement->columns(), database_->catalog(), owner_),
+    Read read{.shape = std::make_shared<Shape>(statement->columns(), catalog_, owner_),
               .counters = {}};
     for (std::size_t i = 0; i < read.shape->columns().size(); ++i) {
         if (is_counter(read.shape->columns()[i])) {
@@ -157,9 +172,9 @@ void HostSession::update_record_set(const RecordSet& record_set) {
     if (rows->changes().empty()) {
         return;
     }
-    std::vector<std::int64_t> versions;
-    transactions_.run(rows->changes().size() == 1, [&] { versions = writer_.write(*rows); });
-    rows->mark_saved(versions);
+    SavedChanges saved;
+    transactions_.run(writer_.is_single_statement(*rows), [&] { saved = writer_.write(*rows); });
+    rows->mark_saved(saved);
 }
 
 RecordSet HostSession::current_user() {
@@ -171,6 +186,14 @@ RecordSet HostSession::current_user() {
 RecordSet HostSession::master_data() {
     const GuardLock lock(guard());
     return run("SELECT * FROM Std", {}, false, false);
+}
+
+std::string HostSession::federal_state() {
+    const GuardLock lock(guard());
+    Rows found(1);
+    database_->prepare("SELECT Bundesland FROM Std LIMIT 1", Author::Host)->query({}, found);
+    return std::string(found.size() == 0 || found[0][0].is_null() ? std::string_view()
+                                                                  : found[0][0].text());
 }
 
 void HostSession::begin_transaction() {

@@ -10,6 +10,7 @@
 #include "host/database/statement_cache.h"
 #include "host/folder/host_folder.h"
 #include "host/recordset/row_writer.h"
+#include "host/session/attachment_store.h"
 #include "host/session/numbers.h"
 #include "host/session/transactions.h"
 #include "host/sql/statement_reader.h"
@@ -28,6 +29,7 @@ class HostSession final : public RefCounted {
     HostSession(HostFolder folder, std::unique_ptr<Database> database, std::string user_key);
 
     [[nodiscard]] const HostFolder& folder() const noexcept { return folder_; }
+    [[nodiscard]] const Catalog& catalog() const noexcept { return *catalog_; }
     [[nodiscard]] std::recursive_mutex* guard() const noexcept { return &owner_->guard; }
 
     // Runs one read-only SELECT. Errors: StatementRefused and others, with the statement's
@@ -37,6 +39,8 @@ class HostSession final : public RefCounted {
     void update_record_set(const RecordSet& record_set);
     RecordSet current_user();
     RecordSet master_data();
+    // Of the office, as its master data name it; "" where they do not.
+    std::string federal_state();
 
     // Keeps other threads out of the session while it is open.
     [[nodiscard]] host::UnitOfWork& unit_of_work() noexcept { return unit_; }
@@ -44,6 +48,9 @@ class HostSession final : public RefCounted {
     void commit_transaction();
     void roll_back_transaction();
     [[nodiscard]] bool has_transaction() const noexcept { return transactions_.is_open(); }
+
+    // Whoever calls it takes the guard.
+    [[nodiscard]] AttachmentStore& attachments() noexcept { return attachments_; }
 
     // Settings of scripts.
     std::string setting(std::string_view section, std::string_view key,
@@ -73,6 +80,7 @@ class HostSession final : public RefCounted {
         std::vector<std::size_t> counters;  // columns that show numbers of cv_counter
     };
 
+    void clean_up();
     RecordSet run(std::string_view text, std::span<const Value> values, bool never_true,
                   bool takes_numbers);
     StatementCache<Read>::Entry prepare(std::string_view text, std::size_t values);
@@ -80,12 +88,14 @@ class HostSession final : public RefCounted {
 
     HostFolder folder_;
     std::unique_ptr<Database> database_;
+    std::shared_ptr<const Catalog> catalog_;
     std::string user_key_;
     std::shared_ptr<RecordSetOwner> owner_;
     sql::Dictionary dictionary_;
     sql::StatementReader reader_;
     StatementCache<Read> statements_;
     Transactions transactions_;
+    AttachmentStore attachments_;
     Unit unit_{*this};
     RowWriter writer_;
     Numbers numbers_;

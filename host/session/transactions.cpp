@@ -18,15 +18,23 @@ void Transactions::prepare_for_write() {
 }
 
 void Transactions::leave() {
-    if (--depth_ > 0 || is_callers_ || !database_.in_transaction()) {
+    if (--depth_ == 0) {
+        release();
+    }
+}
+
+void Transactions::release() {
+    if (is_callers_ || !database_.in_transaction()) {
         return;
     }
     try {
         database_.commit();
     } catch (...) {
         database_.rollback();
+        ended_();
         throw;
     }
+    ended_();
 }
 
 void Transactions::begin() {
@@ -47,6 +55,7 @@ void Transactions::commit() {
     // A commit that fails leaves the transaction open, to be tried again or rolled back.
     database_.commit();
     is_callers_ = false;
+    ended_();
 }
 
 void Transactions::rollback() {
@@ -55,6 +64,7 @@ void Transactions::rollback() {
     }
     is_callers_ = false;
     database_.rollback();
+    ended_();
 }
 
 }  // namespace cvdeveloper::standalone

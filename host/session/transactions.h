@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <utility>
+
 #include "host/database/database.h"
 
 namespace cvdeveloper::standalone {
@@ -9,10 +12,17 @@ namespace cvdeveloper::standalone {
 // In a caller's own transaction units do nothing.
 class Transactions final {
   public:
-    explicit Transactions(Database& database) noexcept : database_(database) {}
+    // ended() is called after every transaction that outlasted one write, kept or not.
+    explicit Transactions(
+        Database& database, std::function<void()> ended = [] {})
+        : database_(database), ended_(std::move(ended)) {}
 
     void enter() noexcept { ++depth_; }
     void leave();
+
+    // Commits what a unit has written so far, so that nobody waits for what takes long from here
+    // on. A caller's own transaction stays open.
+    void release();
 
     // Errors: Transaction for a second one, or an end without a beginning.
     void begin();
@@ -61,6 +71,7 @@ class Transactions final {
     }
 
     Database& database_;
+    std::function<void()> ended_;
     int depth_ = 0;
     bool is_callers_ = false;
 };

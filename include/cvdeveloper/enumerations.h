@@ -72,10 +72,12 @@ struct EnumerationName<ENUM_BLOBTYPE> {
 struct EnumerationMember {
     std::string_view name;
     std::int32_t value;
+    std::string_view help;
 };
 struct Enumeration {
     std::string_view name;
     std::span<const EnumerationMember> members;
+    std::string_view help;
 };
 // Every enumeration of the interface, for bindings and reference pages.
 std::span<const Enumeration> enumerations() noexcept;

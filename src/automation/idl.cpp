@@ -40,7 +40,8 @@ std::string type_text(const TypeName& type) {
         case ValueType::Variant:
             return "VARIANT";
         case ValueType::Object:
-            return type.name.empty() ? "IDispatch*" : std::string("_").append(type.name).append("*");
+            return type.name.empty() ? "IDispatch*"
+                                     : std::string("_").append(type.name).append("*");
         case ValueType::RecordSet:
             return "IDispatch*";
         case ValueType::Enumeration:
@@ -87,9 +88,8 @@ std::string_view kind_text(OperationKind kind) {
 
 std::string operation_text(const Operation& operation, std::size_t slot) {
     std::string text = "        // slot " + std::to_string(slot) + "\n        [id(" +
-                       std::to_string(operation.id) + ")" +
-                       std::string(kind_text(operation.kind)) + ", helpstring(" +
-                       quoted(operation.help.what) + ")]\n        HRESULT " +
+                       std::to_string(operation.id) + ")" + std::string(kind_text(operation.kind)) +
+                       ", helpstring(" + quoted(operation.help.what) + ")]\n        HRESULT " +
                        std::string(operation.name) + "(";
     std::string separator;
     for (std::size_t i = 0; i < operation.parameters.size(); ++i) {
@@ -97,8 +97,8 @@ std::string operation_text(const Operation& operation, std::size_t slot) {
         separator = ",";
     }
     if (operation.binding.result.type != ValueType::Nothing) {
-        text += separator + "\n            [out, retval] " +
-                type_text(operation.binding.result) + "* result";
+        text += separator + "\n            [out, retval] " + type_text(operation.binding.result) +
+                "* result";
     }
     return text + ");\n";
 }

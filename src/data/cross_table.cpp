@@ -32,8 +32,9 @@ constexpr Operation rows[] = {
      .help = {.what = "Builds the statement that lists the rows of a main table with detail values "
                       "beside them, one column for each. \"Zimmer\" shows the entered text of the "
                       "field kind of that short name, \"Preis.Von_Num\" another detail column, "
-                      "\"Lage=Kürzel#LAGE1\" finds the field kind by another column and value. "
-                      "Nothing is sent, quoted or checked.",
+                      "called Preis_Von_Num; \"Lage=Kürzel#LAGE1\" finds the field kind by another "
+                      "column and value. Nothing is sent, quoted or checked; without a column of "
+                      "the main table the statement is no valid one.",
               .result = "The statement, for CV_GetRecordset.",
               .errors = "-2147221504 \"Keine Feldart in strDetailPipeList angegeben\" where no "
                         "detail column is asked for.",

@@ -60,6 +60,7 @@ constexpr Operation rows[] = {
                       "errors of the host's GetRecordset and UpdateRecordset are logged and "
                       "swallowed, and a failed log-on is logged instead of shown.",
               .result = "False at first.",
+              .errors = "None.",
               .example = "app.FlagSqlLog = True"}},
     {.id = 31,
      .name = "FlagSqlLog",
@@ -67,6 +68,7 @@ constexpr Operation rows[] = {
      .binding = bind<&DiagnosticLog::put_FlagSqlLog>,
      .parameters = flag_parameters,
      .help = {.what = "Switches the logging of statements on or off. Detaching keeps it.",
+              .errors = "None.",
               .example = "app.FlagSqlLog = True"}},
     {.id = 32,
      .name = "LogPath",
@@ -75,6 +77,7 @@ constexpr Operation rows[] = {
      .parameters = {},
      .help = {.what = "The folder of the log file.",
               .result = "The folder as it was set; empty at first.",
+              .errors = "None.",
               .example = "app.LogPath = \"/var/log/buero\""}},
     {.id = 32,
      .name = "LogPath",
@@ -83,6 +86,7 @@ constexpr Operation rows[] = {
      .parameters = path_parameters,
      .help = {.what = "Sets the folder of the log file. Nothing is checked; a folder that does not "
                       "exist sends the lines to the temporary folder.",
+              .errors = "None.",
               .example = "app.LogPath = \"/var/log/buero\""}},
 };
 
@@ -101,6 +105,8 @@ void DiagnosticLog::DoLog(std::string_view strProcName, std::string_view strMess
         if (!files::append_line(file, line)) {
             files::append_line(file, std::string(first_units(line, units_of_second_try)) + " ...");
         }
+    } catch (const Interrupt&) {
+        throw;
     } catch (const std::exception&) {
         return;  // a log that fails must not fail what is logged
     }

@@ -40,6 +40,7 @@ constexpr Operation rows[] = {
                       "type leaves the file empty.",
               .result = "True if all was written; False after any failure, also without a session "
                         "and for a field shorter than the given size.",
+              .errors = "None; every failure gives False.",
               .example = "app.oBase.FieldToFile(rs.Fields.Item(\"Notiz\"), \"notiz.txt\")"}},
 };
 

@@ -3,6 +3,7 @@
 #include "cvdeveloper/automation/conversions.h"
 #include "cvdeveloper/automation/error.h"
 #include "cvdeveloper/data/diagnostic_log.h"
+#include "data/help_texts.h"
 #include "platform/text.h"
 
 namespace cvdeveloper {
@@ -10,9 +11,6 @@ namespace cvdeveloper {
 namespace {
 
 constexpr std::string_view no_password = "[NOTHING]";
-
-constexpr char not_initialised[] =
-    "601 \"CVDeveloper wurde nicht initialisiert\" without a session";
 
 constexpr Parameter sql_parameters[] = {
     {.name = "strSQL", .help = "the statement, sent as it stands"},
@@ -57,7 +55,7 @@ constexpr Operation rows[] = {
      .parameters = {},
      .help = {.what = "The logged-on user's row.",
               .result = "A record set of one row.",
-              .errors = not_initialised,
+              .errors = help::session_and_host_errors,
               .tables = "Reads Benutzer.",
               .example = "app.oBase.CV_CurrentUserRS()[\"Login_Name\"]"}},
     {.id = 4,
@@ -67,7 +65,7 @@ constexpr Operation rows[] = {
      .parameters = {},
      .help = {.what = "The master-data row.",
               .result = "A record set of one row.",
-              .errors = not_initialised,
+              .errors = help::session_and_host_errors,
               .tables = "Reads Std.",
               .example = "app.oBase.CV_STDRS()[\"Währung\"]"}},
     {.id = 5,
@@ -77,6 +75,7 @@ constexpr Operation rows[] = {
      .parameters = password_parameters,
      .help = {.what = "Keeps a database password, which every later statement and every written "
                       "record set passes to the host. Attaching a session drops it.",
+              .errors = "None.",
               .example = "app.oBase.SetDBPassword(\"geheim\")"}},
     {.id = 6,
      .name = "ResetDBPassword",
@@ -84,6 +83,7 @@ constexpr Operation rows[] = {
      .binding = bind<&Gateway::ResetDBPassword>,
      .parameters = {},
      .help = {.what = "Drops the database password: the host is called without one again.",
+              .errors = "None.",
               .example = "app.oBase.ResetDBPassword()"}},
 };
 

@@ -74,7 +74,7 @@ bool EntryMasks::EMSK_AddFldArt(std::string_view strEmskDsn, std::string_view st
     rs.set("EMSK_DSN", util.SqlStrNull(strEmskDsn));
     rs.set("FLDART_DSN", util.SqlStrNull(strFldArtDsn));
     rs.set("DEFAULT_ACL", strDefaultACL);
-    rs.set("PFLICHTFELD", static_cast<std::int16_t>(blnPflichtfeld ? 1 : 0));
+    rs.set("PFLICHTFELD", flag_value(blnPflichtfeld));
     rs.set("BACKCOLOR", intBackColor);
     rs.set("FLDARTOP_FILTER", first_units(strFldArtOp_Filter, filter_units));
     gateway.CV_UpdateRecordset(rs);

@@ -70,7 +70,7 @@ std::span<const Operation> FieldOptions::operations() noexcept {
 }
 
 RecordSet FieldOptions::FldArtOp_New() const {
-    return new_entry(session(), "FldArtOp");
+    return new_row(session(), "FldArtOp");
 }
 
 std::string FieldOptions::FldArtOp_Create(std::string_view strFldArtOpBezeichnung,
@@ -85,7 +85,7 @@ std::string FieldOptions::FldArtOp_Create(std::string_view strFldArtOpBezeichnun
             throw AutomationError(601, "FldArtOp_Create", "FldArt_Dsn ist ein Pflichtfeld");
         }
         rs.set("FldArt_Dsn", session().util().SqlStrNull(strFldArtDsn));
-        rs.set("Defaultwert", static_cast<std::int16_t>(blnDefaultwert ? 1 : 0));
+        rs.set("Defaultwert", flag_value(blnDefaultwert));
         return saved_key(session(), rs);
     });
 }

@@ -74,8 +74,9 @@ constexpr Operation rows[] = {
      .parameters = set_type_parameters,
      .help = {.what = "Copies the defaults of an activity type into an activity and saves it: done "
                       "flag, priority, kilometres, amount, recurrence; the follow-up date of an "
-                      "open activity is its date plus the type's days and minutes (day 0 where it "
-                      "is done); the entry mask, where both have one. Art_Dsn stays.",
+                      "open activity is its date plus the type's days and minutes, without a time "
+                      "where the type has none (day 0 where it is done); the entry mask, where "
+                      "both have one. Art_Dsn stays.",
               .errors = "601 \"CVDeveloper wurde nicht initialisiert\" without a session; 94 "
                         "\"Unzulässige Verwendung von Null\" for an open activity without date, "
                         "nothing is saved; the host's own errors.",

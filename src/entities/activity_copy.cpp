@@ -17,27 +17,29 @@ namespace cvdeveloper {
 namespace {
 
 constexpr Parameter copy_parameters[] = {
-    {.name = "rsAkt", .help = "activities; copied from the current row to the end"},
+    {.name = "rsAkt",
+     .help = "activities; copied from the current row to the end, where it is left"},
     {.name = "strUserDsn",
-     .help = "key of the user who made and last changed the copies; \"\" keeps what is copied",
+     .help = "key of the user who made and last changed the copies, now; \"\" keeps what is "
+             "copied",
      .default_value = ""},
     {.name = "strProjekteDsn",
      .help = "key of the copies' project; \"\" keeps what is copied",
      .default_value = ""},
     {.name = "datStartDate",
-     .help = "start of the copies; 0 keeps the dates",
+     .help = "start of the copies; 0 keeps the dates; only read",
      .default_value = Date{},
      .direction = Direction::InOut},
     {.name = "datRefDate",
-     .help = "day of the originals that the start stands for; 0 keeps the dates",
+     .help = "day of the originals that the start stands for; 0 keeps the dates; only read",
      .default_value = Date{},
      .direction = Direction::InOut},
     {.name = "blnWochenende",
-     .help = "moved dates leave weekends out",
+     .help = "moved dates leave weekends out; only read",
      .default_value = true,
      .direction = Direction::InOut},
     {.name = "blnFeiertag",
-     .help = "moved dates leave holidays out",
+     .help = "the holiday component is asked, which never makes a day free; only read",
      .default_value = true,
      .direction = Direction::InOut},
 };
@@ -54,7 +56,9 @@ constexpr Operation rows[] = {
                       "working days. Hand the result to AKT_Update to save it; what hangs on "
                       "the copies is written already.",
               .result = "A record set of AKT with the copies, on its first row.",
-              .errors = help::session_and_host_errors,
+              .errors = "601 \"CVDeveloper wurde nicht initialisiert\" without a session; the "
+                        "host's own errors. The copies are lost then; what was already written "
+                        "for them stays.",
               .tables = "Reads AKT, Std; writes AKTMKM, AKTDET and the host's Blob object.",
               .example = "app.AKT_Update(app.AKT_Copy(app.AKT_Find(where), \"\", project))"}},
 };

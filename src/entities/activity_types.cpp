@@ -78,7 +78,7 @@ std::span<const Operation> ActivityTypes::operations() noexcept {
 }
 
 RecordSet ActivityTypes::AKTART_New() const {
-    RecordSet rs = new_record(session(), "Aktivitätenarten");
+    RecordSet rs = new_row(session(), "Aktivitätenarten");
     rs.set("Aktiv", std::int16_t{1});
     rs.set("Priorität", std::int16_t{1});
     return rs;

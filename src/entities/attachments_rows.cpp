@@ -61,7 +61,8 @@ constexpr Operation rows[] = {
      .kind = OperationKind::Method,
      .binding = bind<&Attachments::BLOB_Add>,
      .parameters = add_parameters,
-     .help = {.what = "Attaches a file to a record. A link's file is not looked at.",
+     .help = {.what = "Attaches a file to a record. A link's file is not looked at. One that is "
+                      "marked as sent is saved twice, the second time with its key and the mark.",
               .result = new_key,
               .errors = help::session_and_host_errors,
               .tables = reads_store,
@@ -71,7 +72,8 @@ constexpr Operation rows[] = {
      .kind = OperationKind::Method,
      .binding = bind<&Attachments::BLOB_Del>,
      .parameters = delete_parameters,
-     .help = {.what = "Deletes an attachment.",
+     .help = {.what = "Deletes an attachment. Whatever its kind, the host is told that of stored "
+                      "content, and no owner.",
               .errors = help::session_and_host_errors,
               .tables = reads_store,
               .example = "app.BLOB_Del(blob, \"veraltet\")"}},
@@ -110,13 +112,14 @@ constexpr Operation rows[] = {
      .kind = OperationKind::Method,
      .binding = bind<&Attachments::BLOB_SaveAs>,
      .parameters = save_parameters,
-     .help = {.what = "Writes an attachment to a folder: stored content, the file that a link "
-                      "leads to, or the folder that it leads to.",
-              .result = "The path written; \"\" at the record set's end and for a link that leads "
-                        "nowhere.",
+     .help = {.what = "Writes an attachment to a folder: stored content, which overwrites nothing; "
+                      "the file that a link leads to, over one of the same name; or the folder "
+                      "that it leads to, whose content goes into strPath itself.",
+              .result = "The path written, strPath for a folder; \"\" at the record set's end and "
+                        "for a link that leads nowhere.",
               .errors = "601 \"CVDeveloper wurde nicht initialisiert\" without a session; 58, 70, "
-                        "76 of the disk, with the path.",
-              .tables = reads_store,
+                        "76 of the disk, with the path; the host's own errors.",
+              .tables = "The host's Blob object and the disk.",
               .example = "app.BLOB_SaveAs(app.BLOB_GetInfo(akt), \"/tmp\", \"expose.pdf\")"}},
     {.id = 2406,
      .name = "BLOB_Copy",
@@ -124,7 +127,8 @@ constexpr Operation rows[] = {
      .binding = bind<&Attachments::BLOB_Copy>,
      .parameters = copy_parameters,
      .help = {.what = "Copies a record's attachments to another record: stored content and links; "
-                      "other kinds are passed over.",
+                      "other kinds are passed over. The sent mark goes along. Files that the host "
+                      "extracts stay where it put them.",
               .result = "The number of attachments copied.",
               .errors = help::session_and_host_errors,
               .tables = reads_store,

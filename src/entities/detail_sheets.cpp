@@ -50,7 +50,7 @@ std::span<const Operation> DetailSheets::operations() noexcept {
 }
 
 RecordSet DetailSheets::Details_New() const {
-    RecordSet rs = new_record(session(), "Details");
+    RecordSet rs = new_row(session(), "Details");
     rs.set("FARCHIV", std::int16_t{0});
     return rs;
 }

@@ -65,7 +65,7 @@ constexpr Operation rows[] = {
               .result = "The new activity's key.",
               .errors = "601 \"CVDeveloper wurde nicht initialisiert\" without a session; the "
                         "host's own errors. One while attaching leaves the saved activity with "
-                        "what was attached so far.",
+                        "what was attached so far and without features.",
               .tables = "Writes AKT and AKTMKM, and the host's Blob object; reads Benutzer and "
                         "Std.",
               .example = "app.AKT_CreateEMail(strMailTo=\"kunde@example.org\", "

@@ -15,6 +15,7 @@ constexpr Operation rows[] = {
      .parameters = {},
      .help = {.what = "The data operations that work on any table.",
               .result = "The same object each time.",
+              .errors = "None.",
               .example = "app.oBase.Sql_Find(\"AKT\", \"1=2\")"}},
     {.id = 41,
      .name = "oTools",
@@ -23,6 +24,7 @@ constexpr Operation rows[] = {
      .parameters = {},
      .help = {.what = "Formatting, texts, working days and placeholders.",
               .result = "The same object each time.",
+              .errors = "None.",
               .example = "app.oTools.FormatNumber(1234.5)"}},
     {.id = 42,
      .name = "oFileSystem",
@@ -31,6 +33,7 @@ constexpr Operation rows[] = {
      .parameters = {},
      .help = {.what = "Files and folders.",
               .result = "The same object each time.",
+              .errors = "None.",
               .example = "app.oFileSystem.FileExists(\"brief.txt\")"}},
 };
 

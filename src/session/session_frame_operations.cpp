@@ -1,11 +1,9 @@
 #include "cvdeveloper/session/session_frame.h"
+#include "data/help_texts.h"
 
 namespace cvdeveloper {
 
 namespace {
-
-constexpr char no_session_error[] =
-    "601 \"CVDeveloper wurde nicht initialisiert\" without a session";
 
 constexpr Parameter connector_parameters[] = {
     {.name = "strCorvantaPath", .help = "the host folder; one trailing \"\\\" is dropped"},
@@ -24,6 +22,7 @@ constexpr Operation rows[] = {
      .parameters = {},
      .help = {.what = "The library's release: major, minor and revision.",
               .result = "\"0.9.30\" for file version 0.9.0.30.",
+              .errors = "None.",
               .example = "app.GetVersion()"}},
     {.id = 2,
      .name = "Corvanta_InitApplication",
@@ -65,6 +64,7 @@ constexpr Operation rows[] = {
      .parameters = {},
      .help = {.what = "Detaches from the host. The host's own session stays as it is; FlagSqlLog, "
                       "LogPath and the worker objects are kept.",
+              .errors = "None.",
               .example = "app.Corvanta_Done()"}},
     {.id = 6,
      .name = "Corvanta_InitType",
@@ -73,6 +73,7 @@ constexpr Operation rows[] = {
      .parameters = {},
      .help = {.what = "Which kind of session is attached.",
               .result = "INITTYPE_NONE, INITTYPE_APPLICATION or INITTYPE_CONNECTOR.",
+              .errors = "None.",
               .example = "app.Corvanta_InitType == cvdeveloper.INITTYPE_CONNECTOR"}},
     {.id = 7,
      .name = "Corvanta_Application",
@@ -81,6 +82,7 @@ constexpr Operation rows[] = {
      .parameters = {},
      .help = {.what = "The host application object of the session.",
               .result = "The object that was handed in; nothing in any other kind of session.",
+              .errors = "None.",
               .example = "app.Corvanta_Application"}},
     {.id = 8,
      .name = "Corvanta_Connector",
@@ -89,6 +91,7 @@ constexpr Operation rows[] = {
      .parameters = {},
      .help = {.what = "The connector object; also after a log-on that failed.",
               .result = "The object, or nothing.",
+              .errors = "None.",
               .example = "app.Corvanta_Connector"}},
     {.id = 9,
      .name = "Corvanta_CurrentUserRS",
@@ -97,7 +100,7 @@ constexpr Operation rows[] = {
      .parameters = {},
      .help = {.what = "The logged-on user's row.",
               .result = "A record set of one row.",
-              .errors = no_session_error,
+              .errors = help::session_and_host_errors,
               .tables = "Reads Benutzer.",
               .example = "app.Corvanta_CurrentUserRS()[\"Email\"]"}},
     {.id = 10,
@@ -107,7 +110,7 @@ constexpr Operation rows[] = {
      .parameters = {},
      .help = {.what = "The master-data row.",
               .result = "A record set of one row.",
-              .errors = no_session_error,
+              .errors = help::session_and_host_errors,
               .tables = "Reads Std.",
               .example = "app.Corvanta_STDRS()[\"Firma\"]"}},
     {.id = 11,
@@ -138,6 +141,7 @@ constexpr Operation rows[] = {
      .parameters = {},
      .help = {.what = "The host's folder.",
               .result = "Empty without a session.",
+              .errors = "None.",
               .example = "app.Corvanta_Folder()"}},
     {.id = 14,
      .name = "oUtil",
@@ -146,6 +150,7 @@ constexpr Operation rows[] = {
      .parameters = {},
      .help = {.what = "The host's Util object: keys, literals, null-tolerant conversions.",
               .result = "The object, or nothing without a session.",
+              .errors = "None.",
               .example = "app.oUtil.NewGUID()"}},
     {.id = 15,
      .name = "oBlob",
@@ -154,6 +159,7 @@ constexpr Operation rows[] = {
      .parameters = {},
      .help = {.what = "The host's Blob object: attachments.",
               .result = "The object, or nothing.",
+              .errors = "None.",
               .example = "app.oBlob"}},
     {.id = 16,
      .name = "oDbIni",
@@ -162,6 +168,7 @@ constexpr Operation rows[] = {
      .parameters = {},
      .help = {.what = "The host's DbIni object: settings kept in the database.",
               .result = "The object, or nothing.",
+              .errors = "None.",
               .example = "app.oDbIni.GetValue(\"Kennung\", \"AKT.Praefix\", \"\")"}},
 };
 

@@ -94,7 +94,8 @@ constexpr Operation rows[] = {
      .help = {.what = "Gives the three parts of an entry. Missing parts are empty; what follows a "
                       "third tab is dropped.",
               .errors = no_errors,
-              .example = "phones.GetItem(1, phone1 := Ref(), phone2 := Ref(), comment := Ref())"}},
+              .example = "phones.GetItem(1, phone1 := cvdeveloper.Ref(), phone2 := "
+                         "cvdeveloper.Ref(), comment := cvdeveloper.Ref())"}},
     {.id = 8,
      .name = "SetItem",
      .kind = OperationKind::Method,

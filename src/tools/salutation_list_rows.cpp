@@ -95,7 +95,8 @@ constexpr Operation rows[] = {
      .help = {.what = "Gives the three parts of an item. Missing parts are empty; what follows a "
                       "third tab is dropped.",
               .errors = index_error,
-              .example = "salutations.GetItem(1, short := Ref(), long := Ref(), letter := Ref())"}},
+              .example = "salutations.GetItem(1, short := cvdeveloper.Ref(), long := "
+                         "cvdeveloper.Ref(), letter := cvdeveloper.Ref())"}},
     {.id = 6,
      .name = "ReplaceSalutationLetterTag",
      .kind = OperationKind::Method,

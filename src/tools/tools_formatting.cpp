@@ -52,7 +52,7 @@ constexpr Operation rows[] = {
      .parameters = currency_parameters,
      .help = {.what = "Formats an amount as FormatNumber does and adds the currency, with a blank "
                       "between. Blanks at the ends are cut off.",
-              .result = "\"1.234,50 EUR\"",
+              .result = "A text such as \"1.234,50 EUR\".",
               .errors =
                   "Without strCurrency: 601 \"CVDeveloper wurde nicht initialisiert\" without "
                   "a session; the host's own errors.",
@@ -65,7 +65,7 @@ constexpr Operation rows[] = {
      .parameters = number_parameters,
      .help = {.what = "Formats a number by the regional settings; German ones off Windows. "
                       "Midpoints are rounded away from zero.",
-              .result = "\"1.234,50\"",
+              .result = "A text such as \"1.234,50\".",
               .errors = format_errors,
               .example = "tools.FormatNumber(1234.5)"}},
     {.id = 4,
@@ -75,7 +75,7 @@ constexpr Operation rows[] = {
      .parameters = number_parameters,
      .help = {.what = "Formats an amount in the currency of the regional settings; the euro off "
                       "Windows.",
-              .result = "\"1.234,50 €\"",
+              .result = "A text such as \"1.234,50 €\".",
               .errors = format_errors,
               .example = "tools.FormatCurrency(1234.5)"}},
     {.id = 5,
@@ -84,7 +84,7 @@ constexpr Operation rows[] = {
      .binding = bind<&clsTools::FormatPercent>,
      .parameters = number_parameters,
      .help = {.what = "Formats the hundredfold of a number with a percent sign.",
-              .result = "\"12,34%\"",
+              .result = "A text such as \"12,34%\".",
               .errors = format_errors,
               .example = "tools.FormatPercent(0.1234)"}},
     {.id = 6,
@@ -92,12 +92,14 @@ constexpr Operation rows[] = {
      .kind = OperationKind::Method,
      .binding = bind<&clsTools::FormatDateTime>,
      .parameters = date_parameters,
-     .help = {.what = "Formats date and time by the regional settings; German ones off Windows. "
-                      "A general date leaves out midnight.",
-              .result = "\"15.11.2026 11:25:39\", \"Sonntag, 15. November 2026\", \"15.11.2026\", "
-                        "\"11:25:39\", \"11:25\"",
-              .errors = "5 for another format.",
-              .example = "tools.FormatDateTime(datetime.now(), 2)"}},
+     .help =
+         {.what = "Formats date and time by the regional settings; German ones off Windows. "
+                  "A general date leaves out midnight.",
+          .result =
+              "A text: \"15.11.2026 11:25:39\", \"Sonntag, 15. November 2026\", \"15.11.2026\", "
+              "\"11:25:39\", \"11:25\".",
+          .errors = "5 for another format.",
+          .example = "tools.FormatDateTime(datetime.now(), 2)"}},
 };
 
 void check_option(std::int32_t option, std::string_view argument) {

@@ -65,7 +65,7 @@ constexpr Operation rows[] = {
      .help = {.what = "A number's text with \".\" as decimal point, and with a leading blank where "
                       "it is not negative. No 0 stands before the point. A date gives its general "
                       "text.",
-              .result = "\" 3\", \"-3\", \" .5\"",
+              .result = "A text such as \" 3\", \"-3\" or \" .5\".",
               .errors = "13 for a text that is no number, 94 for Null.",
               .example = "tools.vbStr(3)"}},
     {.id = 15,

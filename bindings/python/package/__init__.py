@@ -4,7 +4,7 @@
 
     with cvdeveloper.connect("/srv/buero") as app:
         dsn = app.AKT_Create(strBetreff="Anruf")
-        print(app.AKT_GetField(dsn, "Betreff"))
+        print(app.AKT_FindByDSN(dsn)["Subject"])
 
 help(cvdeveloper.Application) lists the operations, help(cvdeveloper.Application.AKT_Create) tells
 one of them in full.

@@ -1,0 +1,126 @@
+#include "host/attachments/open_file.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+#include "cvdeveloper/automation/class_registry.h"
+#include "cvdeveloper/automation/runtime_errors.h"
+#include "platform/posix/file_errors.h"
+
+namespace cvdeveloper::standalone {
+
+namespace {
+
+constexpr unsigned owner_only = 0600;
+
+int flags_of(OpenFile::Mode mode) {
+    switch (mode) {
+        case OpenFile::Mode::Read:
+            return O_RDONLY | O_NONBLOCK;  // a pipe without a writer must not hang
+        case OpenFile::Mode::CreateNew:
+            return O_WRONLY | O_CREAT | O_EXCL;
+        case OpenFile::Mode::Folder:
+            return O_RDONLY | O_DIRECTORY;
+    }
+    return O_RDONLY;
+}
+
+std::int64_t nanoseconds(const timespec& time) {
+    return static_cast<std::int64_t>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+}
+
+struct stat status_of(int descriptor, std::string_view path) {
+    struct stat status {};
+    if (fstat(descriptor, &status) != 0) {
+        files::raise_file_error(errno, path);
+    }
+    return status;
+}
+
+bool lock(int descriptor, int operation) {
+    while (flock(descriptor, operation) != 0) {
+        if (errno != EINTR) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+OpenFile::OpenFile(std::string_view path, Mode mode)
+    : path_(path),
+      descriptor_(open(files::native(path).c_str(), flags_of(mode) | O_CLOEXEC, owner_only)) {
+    if (descriptor_ < 0) {
+        if (mode == Mode::Read && (errno == ENOENT || errno == ENOTDIR)) {
+            raise(RuntimeError::FileNotFound, path);
+        }
+        files::raise_file_error(errno, path);
+    }
+    if (mode == Mode::Read) {
+        struct stat status {};
+        if (fstat(descriptor_, &status) != 0 || !S_ISREG(status.st_mode)) {
+            close(descriptor_);
+            raise(RuntimeError::PathFileAccess, path);
+        }
+    }
+}
+
+OpenFile::~OpenFile() {
+    close(descriptor_);
+}
+
+std::size_t OpenFile::read(std::span<unsigned char> buffer) {
+    for (;;) {
+        const ssize_t count = ::read(descriptor_, buffer.data(), buffer.size());
+        if (count >= 0) {
+            return static_cast<std::size_t>(count);
+        }
+        if (errno != EINTR) {
+            files::raise_file_error(errno, path_);
+        }
+    }
+}
+
+void OpenFile::write(std::span<const unsigned char> bytes) {
+    while (!bytes.empty()) {
+        const ssize_t count = ::write(descriptor_, bytes.data(), bytes.size());
+        if (count >= 0) {
+            bytes = bytes.subspan(static_cast<std::size_t>(count));
+        } else if (errno != EINTR) {
+            files::raise_file_error(errno, path_);
+        }
+    }
+}
+
+void OpenFile::sync() {
+    while (fsync(descriptor_) != 0) {
+        if (errno != EINTR) {
+            files::raise_file_error(errno, path_);
+        }
+    }
+}
+
+FileState OpenFile::state() const {
+    const struct stat status = status_of(descriptor_, path_);
+    return {.device = status.st_dev,
+            .number = status.st_ino,
+            .size = static_cast<std::uint64_t>(status.st_size),
+            .modified = nanoseconds(status.st_mtim),
+            .changed = nanoseconds(status.st_ctim)};
+}
+
+bool OpenFile::lock_shared() {
+    const BlockingScope waiting;
+    return lock(descriptor_, LOCK_SH);
+}
+
+bool OpenFile::try_lock_alone() {
+    return lock(descriptor_, LOCK_EX | LOCK_NB);
+}
+
+}  // namespace cvdeveloper::standalone
