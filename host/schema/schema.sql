@@ -7,7 +7,8 @@
 --   LONGTEXT      text without a limit          LONGBLOB   bytes without a limit
 --   SMALLINT      16 bits, also every flag (1 or 0)
 --   INTEGER       32 bits                       DOUBLE     floating point
---   DATETIME      days since 1899-12-30, local time, as a floating-point number
+--   DATETIME      local time as text, "2026-03-01 14:30:00", with ".250" for milliseconds; in this
+--                 form conditions and sorting work on the text itself
 --
 -- CVTEXT compares as the users expect: without regard to case (umlauts included) and to trailing
 -- blanks. Keys use it too: a script may write them in lower case.
