@@ -1,4 +1,3 @@
-#include "host/keys.h"
 #include "host/services/parse_and_fill.h"
 
 #include <optional>
@@ -8,8 +7,8 @@
 #include "cvdeveloper/automation/class_registry.h"
 #include "cvdeveloper/automation/conversions.h"
 #include "cvdeveloper/enumerations.h"
+#include "host/keys.h"
 #include "host/services/entry.h"
-#include "host/services/util.h"
 #include "platform/text.h"
 
 namespace cvdeveloper::standalone {
@@ -117,8 +116,8 @@ class EntryReader {
     const FieldKind& kind_of(const std::string& key) {
         const auto [place, is_new] = kinds_.try_emplace(key);
         if (is_new) {
-            const RecordSet rs = session_.get_record_set(
-                "SELECT Typ, Kürzel FROM FldArt WHERE DSN=" + literal(key));
+            const RecordSet rs =
+                session_.get_record_set("SELECT Typ, Kürzel FROM FldArt WHERE DSN=" + literal(key));
             if (!rs.at_end() && !rs.value("Typ").is<Null>()) {
                 place->second = {.type = to_int16(rs.value("Typ")),
                                  .name = text_of(rs.value("Kürzel")),
@@ -133,8 +132,8 @@ class EntryReader {
         const std::string of_kind =
             "SELECT DSN FROM FldArtOp WHERE FldArt_Dsn=" + literal(kind) + " AND ";
         for (const char* column : {"Bezeichnung", "Kurz"}) {
-            const RecordSet rs = session_.get_record_set(of_kind + column + "=" +
-                                                         literal(text) + " ORDER BY DSN");
+            const RecordSet rs =
+                session_.get_record_set(of_kind + column + "=" + literal(text) + " ORDER BY DSN");
             if (!rs.at_end()) {
                 return text_of(rs.value_at(0));
             }

@@ -21,7 +21,6 @@ void SessionObject<Interface>::attach(Ref<HostSession> session) {
     session_ = std::move(session);
     blob_ = make_object<standalone::Blob>(session_);
     util_ = make_object<standalone::Util>();
-    blob_ = make_object<standalone::Blob>(session_);
     db_ini_ = make_object<standalone::DbIni>(session_);
 }
 

@@ -1,8 +1,7 @@
-#include "host/keys.h"
 #include "host/ui/pane.h"
 
 #include "cvdeveloper/automation/conversions.h"
-#include "host/services/util.h"
+#include "host/keys.h"
 #include "host/sql/names.h"
 
 namespace cvdeveloper::standalone {
