@@ -3,19 +3,23 @@
 #include <string>
 #include <string_view>
 
+#include "cvdeveloper/application.h"
+
 namespace {
 
-// As trivial as the measured method of the module.
+// The same functions of the library as the module's, bound with pybind11.
 class Peer {
   public:
-    [[nodiscard]] std::string log_path() const { return path_; }
-    void set_log_path(std::string_view path) { path_ = path; }
+    [[nodiscard]] std::string version() const { return application_->GetVersion(); }
     [[nodiscard]] bool is_like(std::string_view text, std::string_view pattern) const {
-        return text == pattern;
+        return tools_->vbLike(text, pattern);
     }
 
   private:
-    std::string path_;
+    cvdeveloper::Ref<cvdeveloper::Application> application_ =
+        cvdeveloper::make_object<cvdeveloper::Application>();
+    cvdeveloper::Ref<cvdeveloper::clsTools> tools_ =
+        cvdeveloper::make_object<cvdeveloper::clsTools>();
 };
 
 }  // namespace
@@ -23,6 +27,6 @@ class Peer {
 PYBIND11_MODULE(pybind_peer, module) {
     pybind11::class_<Peer>(module, "Peer")
         .def(pybind11::init<>())
-        .def("GetVersion", &Peer::log_path)
+        .def("GetVersion", &Peer::version)
         .def("vbLike", &Peer::is_like, pybind11::arg("strText"), pybind11::arg("strPattern"));
 }

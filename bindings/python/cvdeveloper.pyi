@@ -323,8 +323,8 @@ class Application:
     def AKT_SetAktArt(self, rsAkt: _RecordSet | Ref[Any], rsAktArt: _RecordSet | Ref[Any]) -> None:
         """Copies the defaults of an activity type into an activity and saves it: done flag,
         priority, kilometres, amount, recurrence; the follow-up date of an open activity is
-        its date plus the type's days and minutes (day 0 where it is done); the entry mask,
-        where both have one. Art_Dsn stays.
+        its date plus the type's days and minutes, without a time where the type has none (day
+        0 where it is done); the entry mask, where both have one. Art_Dsn stays.
         """
     def AKT_SetAktArtByDsn(self, strAktDsn: str, strAktArtDsn: str) -> None:
         """As AKT_SetAktArt, by the keys of activity and activity type."""
@@ -1310,9 +1310,13 @@ class Application:
         blnAsLink: bool,
         blnMarkSend: bool,
     ) -> str:
-        """Attaches a file to a record. A link's file is not looked at."""
+        """Attaches a file to a record. A link's file is not looked at. One that is marked as
+        sent is saved twice, the second time with its key and the mark.
+        """
     def BLOB_Del(self, strBlobDsn: str, strInfo: str) -> None:
-        """Deletes an attachment."""
+        """Deletes an attachment. Whatever its kind, the host is told that of stored content, and
+        no owner.
+        """
     def BLOB_GetInfo(self, strLinkDsn: str) -> _RecordSet:
         """A record's attachments: key, owner, kind, original path, sent or not."""
     def BLOB_GetDsnCommaList(self, strLinkDsn: str) -> str:
@@ -1320,12 +1324,14 @@ class Application:
     def BLOB_GetFilename(self, strBlobDsn: str) -> str:
         """The path from which an attachment came."""
     def BLOB_SaveAs(self, rsBlob: _RecordSet, strPath: str, strNewFileName: str = "") -> str:
-        """Writes an attachment to a folder: stored content, the file that a link leads to, or
-        the folder that it leads to.
+        """Writes an attachment to a folder: stored content, which overwrites nothing; the file
+        that a link leads to, over one of the same name; or the folder that it leads to, whose
+        content goes into strPath itself.
         """
     def BLOB_Copy(self, strSorceLinkDsn: str, strDestLinkDsn: str) -> int:
         """Copies a record's attachments to another record: stored content and links; other kinds
-        are passed over.
+        are passed over. The sent mark goes along. Files that the host extracts stay where it
+        put them.
         """
     def __enter__(self) -> Self: ...
     def __exit__(
@@ -1440,8 +1446,9 @@ class clsBase:
     ) -> str:
         """Builds the statement that lists the rows of a main table with detail values beside
         them, one column for each. "Zimmer" shows the entered text of the field kind of that
-        short name, "Preis.Von_Num" another detail column, "Lage=Kürzel#LAGE1" finds the field
-        kind by another column and value. Nothing is sent, quoted or checked.
+        short name, "Preis.Von_Num" another detail column, called Preis_Von_Num;
+        "Lage=Kürzel#LAGE1" finds the field kind by another column and value. Nothing is sent,
+        quoted or checked; without a column of the main table the statement is no valid one.
         """
     def BEN_MerkmalDsnCommaList(self) -> str:
         """The user's standard features, which new records get."""

@@ -24,7 +24,12 @@ void let_go(Instance& self) {
     if (!self.object) {
         return;
     }
-    self.state->instances.erase(self.object.get());
+    // A weak reference's callback may have made another instance for the object by now.
+    auto& instances = self.state->instances;
+    if (const auto found = instances.find(self.object.get());
+        found != instances.end() && found->second == reinterpret_cast<PyObject*>(&self)) {
+        instances.erase(found);
+    }
     PyObject* type = nullptr;
     PyObject* value = nullptr;
     PyObject* traceback = nullptr;

@@ -20,12 +20,16 @@ namespace cvdeveloper::python {
 
 namespace {
 
-std::string_view class_name_of(PyObject* name) {
-    const auto text = PyUnicode_Check(name) ? view_of_python(name) : std::nullopt;
+std::string_view text_of(PyObject* argument, std::string_view what) {
+    const auto text = PyUnicode_Check(argument) ? view_of_python(argument) : std::nullopt;
     if (!text) {
-        raise(RuntimeError::TypeMismatch, "Klassenname");
+        raise(RuntimeError::TypeMismatch, what);
     }
     return *text;
+}
+
+std::string_view class_name_of(PyObject* name) {
+    return text_of(name, "Klassenname");
 }
 
 // Borrowed from the call.
@@ -118,15 +122,18 @@ PyObject* messages_of(PyObject* module, PyObject* function) {
 
 PyObject* create_host_folder(PyObject* module, PyObject* arguments) {
     return guarded(state_of(module), [&] {
-        const char* folder = nullptr;
+        PyObject* folder = nullptr;
         int sample = 0;
-        const char* user = nullptr;
-        const char* password = nullptr;
-        if (PyArg_ParseTuple(arguments, "spss:create", &folder, &sample, &user, &password) == 0) {
+        PyObject* user = nullptr;
+        PyObject* password = nullptr;
+        if (PyArg_ParseTuple(arguments, "OpOO:create", &folder, &sample, &user, &password) == 0) {
             throw PythonError{};
         }
-        standalone::create_folder(folder,
-                                  {.sample = sample != 0, .user = user, .password = password});
+        standalone::create_folder(
+            text_of(folder, "create, Argument folder"),
+            {.sample = sample != 0,
+             .user = std::string(text_of(user, "create, Argument user")),
+             .password = std::string(text_of(password, "create, Argument password"))});
         return Owned::borrow(Py_None);
     });
 }

@@ -47,6 +47,15 @@ def test_a_folder_that_holds_a_database_is_left_alone(folder):
     assert (folder / "corvanta.db").read_bytes() == before
 
 
+@pytest.mark.parametrize("argument", ["user", "password"])
+def test_user_and_password_of_a_new_folder_are_texts(tmp_path, argument):
+    with pytest.raises(AutomationError) as caught:
+        cvdeveloper.host.create(tmp_path / "neu", **{argument: None})
+    assert caught.value.number == 13
+    assert caught.value.description == f"Typen unverträglich (create, Argument {argument})"
+    assert not (tmp_path / "neu").exists()
+
+
 def test_the_signature_of_create_tells_its_defaults():
     signature = inspect.signature(cvdeveloper.host.create)
     assert str(signature) == (
