@@ -24,8 +24,8 @@ int main(int count, char** words) {
         const auto base = app->oBase();
         base->Sql_SetField("AKT", key, "Erledigt", std::int16_t{1});
         const cvdeveloper::RecordSet rs = base->Sql_FindByDSN("AKT", key);
-        std::cout << cvdeveloper::to_text(rs.value("Subject")) << ", erledigt: "
-                  << cvdeveloper::to_text(rs.value("Erledigt")) << "\n";
+        std::cout << cvdeveloper::to_text(rs.value("Subject"))
+                  << ", erledigt: " << cvdeveloper::to_text(rs.value("Erledigt")) << "\n";
         return EXIT_SUCCESS;
     } catch (const cvdeveloper::AutomationError& error) {
         std::cerr << error.what() << "\n";

@@ -12,7 +12,8 @@ bool is_date(PyObject* object) noexcept;        // datetime.date or datetime.dat
 bool has_time_zone(PyObject* object) noexcept;  // automation dates are local time and have none
 Date date_of_python(PyObject* object) noexcept;
 
-// Rounded to the microsecond, and to the second where that is no farther. Error 6 outside the years 1 to 9999.
+// Rounded to the microsecond, and to the second where that is no farther. Error 6 outside the years
+// 1 to 9999.
 Owned date_to_python(Date date);
 
 }  // namespace cvdeveloper::python

@@ -61,8 +61,8 @@ void Blob::DeleteBlobFile(std::string_view blob_key, std::string_view, std::int3
 }
 
 RecordSet Blob::GetBlobInfos(std::string_view link_key) {
-    return session_->get_record_set(
-        "SELECT * FROM Blob WHERE uidLINK_DSN=" + literal(link_key) + " ORDER BY rowid");
+    return session_->get_record_set("SELECT * FROM Blob WHERE uidLINK_DSN=" + literal(link_key) +
+                                    " ORDER BY rowid");
 }
 
 std::string Blob::GetSourceFilename(std::string_view blob_key) {
