@@ -10,8 +10,6 @@ namespace cvdeveloper::standalone {
 
 namespace {
 
-constexpr std::size_t largest_block = std::size_t{256} * 1024;
-
 constexpr std::size_t aligned(std::size_t size) noexcept {
     return (size + alignof(Cell) - 1) / alignof(Cell) * alignof(Cell);
 }
@@ -60,14 +58,13 @@ std::byte* Rows::allocate(std::size_t size) {
         // Room for a handful of rows first, then ever larger blocks.
         const std::size_t first = std::max<std::size_t>(512, columns_ * sizeof(Cell) * 2);
         const std::size_t regular = next_block_ == 0 ? first : next_block_;
-        next_block_ = std::min(regular * 2, std::max(largest_block, first));
+        next_block_ = std::min(regular * 2, std::max(BlockPool::block_size, first));
         if (size > regular / 2) {
             // A piece of its own; what is left of the present block stays in use.
             blocks_.push_back(std::make_unique_for_overwrite<std::byte[]>(size));
             return blocks_.back().get();
         }
-        blocks_.push_back(std::make_unique_for_overwrite<std::byte[]>(regular));
-        free_ = blocks_.back().get();
+        free_ = add_block(regular);
         left_ = regular;
     }
     std::byte* const piece = free_;
@@ -76,21 +73,32 @@ std::byte* Rows::allocate(std::size_t size) {
     return piece;
 }
 
+std::byte* Rows::add_block(std::size_t size) {
+    if (size == BlockPool::block_size) {
+        return large_blocks_.add();
+    }
+    blocks_.push_back(std::make_unique_for_overwrite<std::byte[]>(size));
+    return blocks_.back().get();
+}
+
 Cell* Rows::allocate_cells() {
-    std::byte* const place = allocate(std::max<std::size_t>(columns_, 1) * sizeof(Cell));
-    auto* const cells = reinterpret_cast<Cell*>(place);
-    std::uninitialized_value_construct_n(cells, columns_);
-    return cells;
+    return reinterpret_cast<Cell*>(allocate(std::max<std::size_t>(columns_, 1) * sizeof(Cell)));
 }
 
 std::span<Cell> Rows::append() {
+    const std::span<Cell> cells = append_to_be_set();
+    std::uninitialized_value_construct_n(cells.data(), columns_);
+    return cells;
+}
+
+std::span<Cell> Rows::append_to_be_set() {
     rows_.push_back(allocate_cells());
     return {rows_.back(), columns_};
 }
 
 std::span<Cell> Rows::keep_copy(std::span<const Cell> cells) {
     Cell* const copy = allocate_cells();
-    std::ranges::copy(cells, copy);
+    std::ranges::uninitialized_copy(cells, std::span(copy, columns_));
     return {copy, columns_};
 }
 

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "host/database/block_pool.h"
 #include "host/database/value.h"
 
 namespace cvdeveloper::standalone {
@@ -35,7 +36,8 @@ bool same_content(const Cell& left, const Cell& right) noexcept;
 // blocks. Nothing moves once it is written.
 class Rows {
   public:
-    explicit Rows(std::size_t columns) noexcept : columns_(columns) {}
+    explicit Rows(std::size_t columns, std::shared_ptr<BlockPool> pool = nullptr) noexcept
+        : columns_(columns), large_blocks_(std::move(pool)) {}
 
     [[nodiscard]] std::size_t size() const noexcept { return rows_.size(); }
     [[nodiscard]] std::size_t columns() const noexcept { return columns_; }
@@ -45,6 +47,8 @@ class Rows {
 
     // A new last row of nulls.
     std::span<Cell> append();
+    // A new last row whose cells all have to be set.
+    std::span<Cell> append_to_be_set();
     // A copy of a row's cells that is no row itself.
     std::span<Cell> keep_copy(std::span<const Cell> cells);
 
@@ -59,11 +63,13 @@ class Rows {
   private:
     std::byte* allocate(std::size_t size);
     Cell* allocate_cells();
+    std::byte* add_block(std::size_t size);
     const char* keep(const void* data, std::size_t size);
 
     std::size_t columns_;
     std::vector<Cell*> rows_;
     std::vector<std::unique_ptr<std::byte[]>> blocks_;
+    PooledBlocks large_blocks_;
     std::byte* free_ = nullptr;
     std::size_t left_ = 0;
     std::size_t next_block_ = 0;

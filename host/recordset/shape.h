@@ -13,9 +13,10 @@
 
 namespace cvdeveloper::standalone {
 
-// The session that record sets come from and go back to, and its guard.
+// The session that record sets come from and go back to: its guard, and the memory that they share.
 struct RecordSetOwner {
     std::recursive_mutex guard;
+    std::shared_ptr<BlockPool> blocks = std::make_shared<BlockPool>();
 };
 
 struct Column {

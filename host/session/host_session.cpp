@@ -140,7 +140,7 @@ RecordSet HostSession::run_own(std::string_view text, std::span<const Value> val
 
 RecordSet HostSession::run(Statements::Entry& entry, std::span<const Value> values) {
     const Read& read = entry.beside;
-    Rows rows(read.shape->columns().size());
+    Rows rows(read.shape->columns().size(), owner_->blocks);
     if (!read.has_no_rows) {
         entry.statement->query(values, rows);
     }
@@ -189,7 +189,7 @@ void HostSession::fill_in_numbers(const Read& read, Rows& rows) {
         }
     };
     if (read.takes_numbers && rows.size() > 0) {
-        transactions_.run(rows.size() * read.counters.size() == 1, fill);
+        transactions_.run_in_any(fill);
     } else {
         fill();
     }

@@ -11,26 +11,30 @@ constexpr std::size_t width = 10;
 
 }  // namespace
 
+// Two plain statements cost a third of one that returns what it has written.
 std::string Numbers::take(std::string_view counter) {
-    return run(take_,
-               "INSERT INTO cv_counter (name, prefix, last_number) VALUES (?, '', 1) "
-               "ON CONFLICT (name) DO UPDATE SET last_number = last_number + 1 "
-               "RETURNING prefix, last_number",
-               counter);
+    const Value name = counter;
+    const auto execute = [&](std::unique_ptr<Statement>& statement, std::string_view text) {
+        return prepared(statement, text).execute({&name, 1});
+    };
+    if (execute(take_, "UPDATE cv_counter SET last_number = last_number + 1 WHERE name = ?") == 0) {
+        execute(begin_, "INSERT INTO cv_counter (name, prefix, last_number) VALUES (?, '', 1)");
+    }
+    return last(counter);
 }
 
-std::string Numbers::last(std::string_view counter) {
-    return run(last_, "SELECT prefix, last_number FROM cv_counter WHERE name = ?", counter);
-}
-
-std::string Numbers::run(std::unique_ptr<Statement>& statement, std::string_view text,
-                         std::string_view counter) {
+Statement& Numbers::prepared(std::unique_ptr<Statement>& statement, std::string_view text) {
     if (statement == nullptr) {
         statement = database_.prepare(text, Author::Host);
     }
+    return *statement;
+}
+
+std::string Numbers::last(std::string_view counter) {
     Rows rows(2);
-    const Value value = counter;
-    statement->query({&value, 1}, rows);
+    const Value name = counter;
+    prepared(last_, "SELECT prefix, last_number FROM cv_counter WHERE name = ?")
+        .query({&name, 1}, rows);
     if (rows.size() == 0) {
         return {};
     }

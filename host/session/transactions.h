@@ -43,6 +43,18 @@ class Transactions final {
         }
     }
 
+    // Runs writes that do no harm by halves: in the transaction that is open, or in one of their
+    // own.
+    template <class Write>
+    void run_in_any(const Write& write) {
+        prepare_for_write();
+        if (database_.in_transaction()) {
+            write();
+        } else {
+            run_in_transaction(write);
+        }
+    }
+
   private:
     void prepare_for_write();
 

@@ -57,6 +57,9 @@ bool equal_names(std::string_view left, std::string_view right) noexcept {
     if (left.size() != right.size()) {
         return false;
     }
+    if (left == right) {
+        return true;
+    }
     char before_left = '\0';
     char before_right = '\0';
     for (std::size_t i = 0; i < left.size(); ++i) {

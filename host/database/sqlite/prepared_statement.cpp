@@ -103,7 +103,8 @@ void PreparedStatement::query(std::span<const Value> values, Rows& rows) {
 
 void PreparedStatement::read_row(Rows& rows) const {
     int column = 0;
-    for (Cell& cell : rows.append()) {
+    for (Cell& place : rows.append_to_be_set()) {
+        Cell& cell = *std::construct_at(&place);
         // One look-up a field; safe, because the connection belongs to one thread at a time.
         sqlite3_value* const value = sqlite3_column_value(handle_.get(), column++);
         switch (sqlite3_value_type(value)) {
