@@ -1,6 +1,6 @@
 #include "host/maintenance/check_database.h"
 
-#include <set>
+#include <map>
 
 #include "host/database/sqlite/connection.h"
 #include "host/errors.h"
@@ -43,14 +43,15 @@ void check_columns(const Table& wanted, const Table& table, Problems& problems) 
     }
 }
 
-std::set<std::string> index_names(Database& database) {
-    const Rows rows =
-        query(database, "SELECT name FROM sqlite_schema WHERE type='index' AND sql IS NOT NULL");
-    std::set<std::string> names;
+// The tables of all indexes.
+std::map<std::string, std::string> indexes(Database& database) {
+    const Rows rows = query(
+        database, "SELECT name, tbl_name FROM sqlite_schema WHERE type='index' AND sql IS NOT NULL");
+    std::map<std::string, std::string> all;
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        names.emplace(rows[i][0].text());
+        all.emplace(rows[i][0].text(), rows[i][1].text());
     }
-    return names;
+    return all;
 }
 
 // The largest number that a record of the table has got from the counter.
@@ -95,9 +96,9 @@ void check_schema(Database& database, Problems& problems) {
             check_columns(*table, *present, problems);
         }
     }
-    const std::set<std::string> present = index_names(database);
-    for (const std::string& index : index_names(wanted)) {
-        if (!present.contains(index)) {
+    const std::map<std::string, std::string> present = indexes(database);
+    for (const auto& [index, table] : indexes(wanted)) {
+        if (!present.contains(index) && database.catalog()->find(table) != nullptr) {
             problems.push_back("Es fehlt der Index " + index + ".");
         }
     }

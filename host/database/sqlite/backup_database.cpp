@@ -9,6 +9,7 @@
 
 #include "cvdeveloper/automation/class_registry.h"
 #include "host/attachments/open_file.h"
+#include "host/database/sqlite/system_error.h"
 #include "host/errors.h"
 
 namespace cvdeveloper::standalone::sqlite {
@@ -26,7 +27,7 @@ struct Finish {
 };
 
 [[noreturn]] void raise_failure(sqlite3* to, int code, const std::string& path) {
-    const int system_error = sqlite3_system_errno(to);
+    const int system_error = system_error_of(to);
     const std::string file = "Die Kopie der Datenbank " + in_quotes(path);
     if ((code & 0xFF) == SQLITE_FULL || is_disk_full(system_error)) {
         raise(HostError::DiskFull,

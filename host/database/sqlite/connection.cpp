@@ -8,6 +8,7 @@
 #include "host/database/sqlite/backup_database.h"
 #include "host/database/sqlite/functions.h"
 #include "host/database/sqlite/prepared_statement.h"
+#include "host/database/sqlite/system_error.h"
 #include "host/errors.h"
 
 namespace cvdeveloper::standalone::sqlite {
@@ -331,7 +332,7 @@ void Connection::raise_failure(int code) {
 
 void Connection::raise_file_failure(int code, const std::string& message) {
     const std::string file = "Die Datenbank " + in_quotes(path_);
-    switch (kind_of_failure(code, sqlite3_system_errno(handle_.get()))) {
+    switch (kind_of_failure(code, system_error_of(handle_.get()))) {
         case HostError::Damaged:
             raise(HostError::Damaged,
                   file + " ist beschädigt (" + message +
