@@ -23,8 +23,8 @@ enum class HostError : std::int32_t {
     Folder = -2147217865,            // no host folder, or one that cannot be used
     NoRights = -2147024891,          // folder or file may not be read or written
     DiskFull = -2147024784,
-    Damaged = -2147023504,    // the database file, an attachment or a backup
-    Database = -2147467259,   // any other failure of disk or system
+    Damaged = -2147023504,   // the database file, an attachment or a backup
+    Database = -2147467259,  // any other failure of disk or system
 };
 
 [[noreturn]] void raise(HostError error, std::string description);

@@ -20,8 +20,7 @@ int check(Words arguments) {
         std::cout << problem << "\n";
     }
     if (!report.problems.empty()) {
-        std::cout << folder << " ist nicht in Ordnung: " << report.problems.size()
-                  << " Fehler.\n";
+        std::cout << folder << " ist nicht in Ordnung: " << report.problems.size() << " Fehler.\n";
         return EXIT_FAILURE;
     }
     std::cout << folder << " ist in Ordnung: " << report.tables << " Tabellen, " << report.rows
@@ -33,8 +32,8 @@ int backup(Words arguments) {
     const Options options = read_options(arguments);
     require_words(options, 2, "FOLDER and FILE are");
     TerminalProgress progress("Sichern");
-    const auto size = cvdeveloper::standalone::back_up(options.words[0], options.words[1],
-                                                       std::ref(progress));
+    const auto size =
+        cvdeveloper::standalone::back_up(options.words[0], options.words[1], std::ref(progress));
     progress.clear();
     std::cout << options.words[0] << " ist in " << options.words[1] << " gesichert: " << size
               << " Bytes.\n";

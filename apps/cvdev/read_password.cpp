@@ -37,10 +37,11 @@ std::string read_line() {
 }
 
 std::string ask(const char* question) {
-    std::cerr << question << std::flush;
     std::string answer;
     {
+        // Before the question: what is typed ahead of it would be seen, and is dropped.
         const NoEcho hidden;
+        std::cerr << question << std::flush;
         answer = read_line();
     }
     std::cerr << "\n";

@@ -29,7 +29,8 @@ constexpr std::string_view default_ini =
     "; Sekunden, nach denen eine lesende Anweisung abgebrochen wird; 0: nie\n"
     "Laufzeit = 60\n"
     "; voll: jede Änderung ist sofort auf dem Datenträger. schnell: bei Stromausfall können die\n"
-    "; letzten Änderungen verloren gehen, die Datenbank selbst bleibt heil. ohne: bei Stromausfall\n"
+    "; letzten Änderungen verloren gehen, die Datenbank selbst bleibt heil. ohne: bei "
+    "Stromausfall\n"
     "; kann die ganze Datenbank beschädigt werden.\n"
     "Sicherheit = voll\n"
     "\n"
@@ -73,9 +74,8 @@ void fill_database(const fs::path& file, const CreateOptions& options) {
     database.read_catalog();
     load_rows(database, schema / "base", nothing_to_tell);
     if (options.sample) {
-        load_rows(database, schema / "sample", [&](std::string_view table, double share) {
-            options.progress(table, share);
-        });
+        load_rows(database, schema / "sample",
+                  [&](std::string_view table, double share) { options.progress(table, share); });
     }
     Users users(database);
     users.make_administrator(options.user);

@@ -45,8 +45,7 @@ fs::path installed_folder() {
 }  // namespace
 
 std::filesystem::path schema_folder() {
-    if (const char* place = std::getenv("CVDEVELOPER_SCHEMA");
-        place != nullptr && *place != '\0') {
+    if (const char* place = std::getenv("CVDEVELOPER_SCHEMA"); place != nullptr && *place != '\0') {
         return place;
     }
     static const fs::path installed = installed_folder();

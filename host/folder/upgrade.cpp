@@ -59,14 +59,13 @@ void upgrade(Database& database, const fs::path& file, const HostLog& log) {
         for (const std::string& step : steps) {
             database.run_script(step);
         }
-        const auto set =
-            database.prepare("UPDATE Version SET Version=?", Author::Host);
+        const auto set = database.prepare("UPDATE Version SET Version=?", Author::Host);
         const Value version = std::int64_t{schema_version};
         set->execute({&version, 1});
         database.commit();
         log.note("Datenbank von Version " + std::to_string(before) + " auf Version " +
-                 std::to_string(schema_version) + " gebracht; Kopie davor: " +
-                 copy.filename().string());
+                 std::to_string(schema_version) +
+                 " gebracht; Kopie davor: " + copy.filename().string());
     } catch (...) {
         database.rollback();
         throw;

@@ -85,9 +85,8 @@ class Backup {
         const std::vector<StoredAttachment> stored = stored_attachments(*database);
         const DatabaseCopy copy(file_ + ".db.neu");
         progress_("Datenbank", 0);
-        database->copy_to(copy.path(), [&](double share) {
-            progress_("Datenbank", share * share_of_database);
-        });
+        database->copy_to(copy.path(),
+                          [&](double share) { progress_("Datenbank", share * share_of_database); });
         write_parts(archive, *database, stored, copy.path());
         database->rollback();
         archive.finish();
@@ -139,9 +138,8 @@ class Backup {
                           "Anlagen");
         } catch (const AutomationError& error) {
             if (error.number() == static_cast<std::int32_t>(RuntimeError::FileNotFound)) {
-                raise(HostError::Damaged,
-                      "Der Inhalt der Anlage " + in_quotes(attachment.key) +
-                          " fehlt; cvdev check sagt, was noch fehlt.");
+                raise(HostError::Damaged, "Der Inhalt der Anlage " + in_quotes(attachment.key) +
+                                              " fehlt; cvdev check sagt, was noch fehlt.");
             }
             throw;
         }
@@ -151,8 +149,8 @@ class Backup {
                        std::string_view step) {
         archive.add_file(name, file, [&](std::uint64_t count) {
             done_ += static_cast<double>(count);
-            progress_(step, share_of_database +
-                                (1 - share_of_database) * std::min(done_ / bytes_, 1.0));
+            progress_(step,
+                      share_of_database + (1 - share_of_database) * std::min(done_ / bytes_, 1.0));
         });
         ++files_;
     }
@@ -169,8 +167,7 @@ class Backup {
 
 }  // namespace
 
-std::uint64_t back_up(std::string_view folder, std::string_view file,
-                      const Progression& progress) {
+std::uint64_t back_up(std::string_view folder, std::string_view file, const Progression& progress) {
     return Backup(folder, disk_path(file).string(), progress).write();
 }
 

@@ -45,8 +45,9 @@ void check_columns(const Table& wanted, const Table& table, Problems& problems) 
 
 // The tables of all indexes.
 std::map<std::string, std::string> indexes(Database& database) {
-    const Rows rows = query(
-        database, "SELECT name, tbl_name FROM sqlite_schema WHERE type='index' AND sql IS NOT NULL");
+    const Rows rows =
+        query(database,
+              "SELECT name, tbl_name FROM sqlite_schema WHERE type='index' AND sql IS NOT NULL");
     std::map<std::string, std::string> all;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         all.emplace(rows[i][0].text(), rows[i][1].text());
@@ -111,8 +112,8 @@ std::int64_t check_rows(Database& database, Problems& problems) {
         statement += table->version() == Table::npos
                          ? ", 0"
                          : ", count(*) FILTER (WHERE typeof(STAMP) <> 'integer' OR STAMP < 0)";
-        statement += table->key() == Table::npos ? ", 0"
-                                                 : ", count(*) FILTER (WHERE trim(DSN) = '')";
+        statement +=
+            table->key() == Table::npos ? ", 0" : ", count(*) FILTER (WHERE trim(DSN) = '')";
         const Rows found = query(database, statement + " FROM " + quoted_name(table->name()));
         rows += found[0][0].integer;
         if (const std::int64_t count = found[0][1].integer; count > 0) {

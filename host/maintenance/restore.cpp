@@ -126,7 +126,9 @@ void name_database(const fs::path& folder) {
     fs::rename(folder / parts::database, wanted);
 }
 
+// A backup of an earlier version is brought up to this one.
 void verify(const fs::path& folder, const std::string& file, const Progression& progress) {
+    static_cast<void>(HostFolder::open(folder.string()).open_database());
     const CheckReport report =
         check_folder(folder.string(), [&](std::string_view step, double share) {
             progress(step, share_of_reading + (1 - share_of_reading) * share);
@@ -162,8 +164,8 @@ void restore(std::string_view file, std::string_view folder, const Progression& 
         }
         restore_into(disk_path(file).string(), target, progress);
     } catch (const fs::filesystem_error& error) {
-        raise_system_failure(error.code().value(), "Der Ordner " + in_quotes(folder) +
-                                                       " kann nicht angelegt werden");
+        raise_system_failure(error.code().value(),
+                             "Der Ordner " + in_quotes(folder) + " kann nicht angelegt werden");
     }
 }
 

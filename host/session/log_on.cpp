@@ -38,8 +38,9 @@ std::string check_logon(Database& database, const HostLog& log, std::string_view
     if (!delay.wait_for_turn()) {
         log.note("Anmeldung " + logged_name(user) + " abgelehnt: zu viele Versuche zugleich");
         raise(HostError::LogonFailed,
-              refusal(name, "nach mehreren Fehlversuchen warten schon andere; bitte in einer halben "
-                            "Minute noch einmal versuchen."));
+              refusal(name,
+                      "nach mehreren Fehlversuchen warten schon andere; bitte in einer halben "
+                      "Minute noch einmal versuchen."));
     }
     if (!is_password_of(user, password)) {
         delay.note_failure();

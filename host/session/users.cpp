@@ -122,9 +122,9 @@ void Users::add(std::string_view login_name, std::string_view password, bool is_
 void Users::set_password(std::string_view login_name, std::string_view password) {
     const std::optional<User> user = find(login_name);
     if (!user) {
-        raise(HostError::ValueRefused,
-              "Einen Benutzer " + in_quotes(first_units(login_name, longest_name)) +
-                  " gibt es nicht.");
+        raise(HostError::ValueRefused, "Einen Benutzer " +
+                                           in_quotes(first_units(login_name, longest_name)) +
+                                           " gibt es nicht.");
     }
     write_password(user->key, hash_of(password));
     const Value key = std::string_view(user->key);
@@ -136,8 +136,9 @@ void Users::write_password(std::string_view key, std::string_view hash) {
     const std::string changed = date_text(now()).value_or("");
     const Value values[] = {key, hash, std::string_view(changed)};
     database_
-        .prepare("INSERT OR REPLACE INTO cv_password (Benutzer_DSN, hash, changed) VALUES (?, ?, ?)",
-                 Author::Host)
+        .prepare(
+            "INSERT OR REPLACE INTO cv_password (Benutzer_DSN, hash, changed) VALUES (?, ?, ?)",
+            Author::Host)
         ->execute(values);
 }
 

@@ -34,7 +34,8 @@ struct Finish {
               file + " kann nicht geschrieben werden: der Datenträger ist voll.");
     }
     if ((code & 0xFF) == SQLITE_CORRUPT || (code & 0xFF) == SQLITE_NOTADB) {
-        raise(HostError::Damaged, file + " kann nicht gemacht werden: die Datenbank ist beschädigt.");
+        raise(HostError::Damaged,
+              file + " kann nicht gemacht werden: die Datenbank ist beschädigt.");
     }
     raise(is_missing_right(system_error) ? HostError::NoRights : HostError::Database,
           file + " kann nicht geschrieben werden: " + sqlite3_errstr(code) + ".");

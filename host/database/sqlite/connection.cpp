@@ -301,8 +301,9 @@ void Connection::raise_failure(int code) {
         throw Interrupt();
     }
     if (is_over_limit_) {
-        raise(HostError::StatementTooLong, "Die Anweisung wurde abgebrochen: sie läuft länger als " +
-                                               seconds(options_.statement_limit) + ".");
+        raise(HostError::StatementTooLong,
+              "Die Anweisung wurde abgebrochen: sie läuft länger als " +
+                  seconds(options_.statement_limit) + ".");
     }
     switch (code & 0xFF) {
         case SQLITE_INTERRUPT:

@@ -70,9 +70,9 @@ TEST_F(Failing, StatementThatRunsTooLongIsStoppedAndTheSessionGoesOn) {
     const auto begin = std::chrono::steady_clock::now();
     const AutomationError error = error_of([&] { select(endless); });
     EXPECT_EQ(error.number(), number(HostError::StatementTooLong));
-    EXPECT_EQ(error.description(),
-              "Die Anweisung wurde abgebrochen: sie läuft länger als 1 Sekunde. Anweisung: " +
-                  endless);
+    EXPECT_EQ(
+        error.description(),
+        "Die Anweisung wurde abgebrochen: sie läuft länger als 1 Sekunde. Anweisung: " + endless);
     EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(10));
     EXPECT_EQ(single("SELECT Subject FROM AKT"), Variant("x"));
     add_activity("y");
@@ -109,16 +109,15 @@ TEST_F(Failing, DatabaseThatIsLockedForTooLongIsNamedWithTheTime) {
 
 TEST_F(Failing, SettingsThatAreNoneAreNamed) {
     for (const auto& [settings, text] :
-         {std::pair("Wartezeit=bald",
-                    "Wartezeit 'bald'; möglich ist eine Zahl von 0 bis 100000."),
+         {std::pair("Wartezeit=bald", "Wartezeit 'bald'; möglich ist eine Zahl von 0 bis 100000."),
           std::pair("Laufzeit=-1", "Laufzeit '-1'; möglich ist eine Zahl von 0 bis 100000."),
           std::pair("Sicherheit=sehr",
                     "Sicherheit 'sehr'; möglich ist voll, schnell oder ohne.")}) {
         set(settings);
         const AutomationError error = error_of([&] { static_cast<void>(log_on()); });
         EXPECT_EQ(error.number(), number(HostError::Folder));
-        EXPECT_EQ(error.description(), "In der Datei corvanta.ini im Ordner '" + host_path() +
-                                           "' steht bei " + text);
+        EXPECT_EQ(error.description(),
+                  "In der Datei corvanta.ini im Ordner '" + host_path() + "' steht bei " + text);
     }
 }
 
@@ -209,7 +208,8 @@ TEST_F(Failing, FolderWithoutRightsIsNamed) {
     in_child([this] {
         ASSERT_EQ(setgid(65534), 0);
         ASSERT_EQ(setuid(65534), 0);
-        EXPECT_EQ(error_of([&] { static_cast<void>(log_on()); }).number(), number(HostError::NoRights))
+        EXPECT_EQ(error_of([&] { static_cast<void>(log_on()); }).number(),
+                  number(HostError::NoRights))
             << "a database that may only be read";
     });
 }

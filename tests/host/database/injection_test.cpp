@@ -103,12 +103,15 @@ class Injection : public StandaloneApplicationTest {
              [this](const std::string& text) { return call("AKT_FindByKennung", text); }},
             {"by key", [this](const std::string& text) { return call("AKT_FindByDSN", text); }},
             {"condition",
-             [this](const std::string& text) { return call("AKT_Find", "Subject='" + text + "'"); }},
+             [this](const std::string& text) {
+                 return call("AKT_Find", "Subject='" + text + "'");
+             }},
             {"feature's name",
              [this](const std::string& text) { return call("MKM_DSNByName", text); }},
             {"field of master data",
              [this](const std::string& text) { return call("STD_GetField", text); }},
-            {"subject", [this](const std::string& text) { return call("AKT_FindByBetreff", text); }},
+            {"subject",
+             [this](const std::string& text) { return call("AKT_FindByBetreff", text); }},
         };
     }
     Variant rows_of(const std::string& statement) { return Variant(select(statement).object()); }

@@ -11,6 +11,7 @@
 #include "host/folder/load_rows.h"
 #include "host/folder/schema_folder.h"
 #include "host/host_test.h"
+#include "host/maintenance/backup.h"
 #include "host/maintenance/check.h"
 #include "host/session/users.h"
 
@@ -121,6 +122,14 @@ TEST_F(AFolderOfVersion1, IsUpgradedOnceByManyAtTheSameTime) {
     }
     EXPECT_EQ(version(path() + "/corvanta.db"), schema_version);
     EXPECT_FALSE(fs::exists(copy() + "-2"));
+}
+
+TEST_F(AFolderOfVersion1, IsRestoredFromItsBackupInThisVersion) {
+    back_up(path(), folder.path("sicherung.tar"), nothing_to_tell);
+    EXPECT_EQ(version(path() + "/corvanta.db"), 1);
+    restore(folder.path("sicherung.tar"), folder.path("wieder"), nothing_to_tell);
+    EXPECT_EQ(version(folder.path("wieder/corvanta.db")), schema_version);
+    Connector().Logon(folder.path("wieder"), "chef", "");
 }
 
 TEST_F(AFolderOfVersion1, StaysAsItIsWhereAStepFails) {

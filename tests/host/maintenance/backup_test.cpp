@@ -121,8 +121,8 @@ TEST_F(ABackup, GoesWithAnAttachmentWhoseContentIsLost) {
     fs::remove(host_path() + "/Anlagen/" + *stored_files(host_path()).begin());
     const AutomationError error = error_of([&] { back_up_now(); });
     EXPECT_EQ(error.number(), static_cast<std::int32_t>(HostError::Damaged));
-    EXPECT_EQ(error.description(), "Der Inhalt der Anlage '" + key +
-                                       "' fehlt; cvdev check sagt, was noch fehlt.");
+    EXPECT_EQ(error.description(),
+              "Der Inhalt der Anlage '" + key + "' fehlt; cvdev check sagt, was noch fehlt.");
     EXPECT_FALSE(fs::exists(file()));
     EXPECT_FALSE(fs::exists(file() + ".neu"));
 }

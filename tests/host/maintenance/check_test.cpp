@@ -69,9 +69,9 @@ TEST_F(Checking, NamesAttachmentsWhoseContentIsNotTheirs) {
     EXPECT_EQ(problems(), Texts{"Die Anlage '" + key + "' hat 5 statt 4 Bytes."});
     const std::string file = stored();
     fs::remove(file);
-    EXPECT_EQ(problems(), Texts{"Die Anlage '" + key +
-                                "' kann nicht gelesen werden: Datei nicht gefunden (" + file +
-                                ")."});
+    EXPECT_EQ(problems(),
+              Texts{"Die Anlage '" + key + "' kann nicht gelesen werden: Datei nicht gefunden (" +
+                    file + ")."});
 }
 
 TEST_F(Checking, NamesFilesThatNoAttachmentNames) {
@@ -87,9 +87,9 @@ TEST_F(Checking, NamesTablesColumnsAndIndexesThatAreMissing) {
     connector = nullptr;
     run("DROP TABLE postorte; ALTER TABLE AKT DROP COLUMN Treffpunkt; DROP INDEX "
         "ix_Blob_strStoredName");
-    EXPECT_EQ(problems(), (Texts{"Es fehlt die Spalte AKT.Treffpunkt.",
-                                 "Es fehlt die Tabelle postorte.",
-                                 "Es fehlt der Index ix_Blob_strStoredName."}));
+    EXPECT_EQ(problems(),
+              (Texts{"Es fehlt die Spalte AKT.Treffpunkt.", "Es fehlt die Tabelle postorte.",
+                     "Es fehlt der Index ix_Blob_strStoredName."}));
 }
 
 TEST_F(Checking, NamesColumnsOfAnotherType) {

@@ -34,9 +34,10 @@ TEST_F(TheConnector, RefusesEveryWrongLogonInTheSameWords) {
     const std::string wrong_password = refusal("chef", "FALSCH");
     EXPECT_EQ(refusal("niemand", ""), wrong_password);
     EXPECT_EQ(refusal("inaktiv", "FALSCH"), wrong_password);
-    EXPECT_EQ(refusal("inaktiv", "GEHEIM"),
-              "Die Anmeldung von 'X' ist fehlgeschlagen: der Benutzer ist nicht aktiv und darf sich "
-              "nicht anmelden.");
+    EXPECT_EQ(
+        refusal("inaktiv", "GEHEIM"),
+        "Die Anmeldung von 'X' ist fehlgeschlagen: der Benutzer ist nicht aktiv und darf sich "
+        "nicht anmelden.");
 }
 
 TEST_F(TheConnector, TakesPasswordsInAnyCase) {

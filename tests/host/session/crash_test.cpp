@@ -75,8 +75,8 @@ class Worker {
     Record add_record() {
         const Record record{
             .key = new_key(),
-            .number = to_text(
-                connector_.GetRecordset("SELECT Kennung_AKT FROM Std", {}).value_at(0))};
+            .number =
+                to_text(connector_.GetRecordset("SELECT Kennung_AKT FROM Std", {}).value_at(0))};
         RecordSet rs = connector_.GetRecordset("SELECT * FROM AKT WHERE 1=2", {});
         rs.add_new();
         rs.set("DSN", record.key);
@@ -211,9 +211,9 @@ class KilledWriter : public ::testing::Test {
                 << "a unit of work is there by half";
         }
         for (const auto& [key, is_kept] : acknowledged.attachments) {
-            EXPECT_TRUE(!is_kept ||
-                        !connector.GetRecordset("SELECT 1 FROM Blob WHERE DSN='" + key + "'", {})
-                             .at_end())
+            EXPECT_TRUE(
+                !is_kept ||
+                !connector.GetRecordset("SELECT 1 FROM Blob WHERE DSN='" + key + "'", {}).at_end())
                 << key;
         }
     }
@@ -260,9 +260,10 @@ TEST_F(KilledWriter, LosesNothingThatItWasToldIsKeptInAHundredKills) {
         const Ref<Connector> connector = log_on();  // cleans up what was half done
         expect_all_there(*connector, acknowledged);
         expect_rows_and_files_agree(path(), *connector);
-        EXPECT_TRUE(connector->GetRecordset("SELECT Kennung FROM AKT GROUP BY Kennung "
-                                            "HAVING count(*) > 1",
-                                            {})
+        EXPECT_TRUE(connector
+                        ->GetRecordset("SELECT Kennung FROM AKT GROUP BY Kennung "
+                                       "HAVING count(*) > 1",
+                                       {})
                         .at_end())
             << "two records have one number";
         for (const std::string& problem : check_folder(path(), nothing_to_tell).problems) {
