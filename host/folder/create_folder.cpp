@@ -5,6 +5,7 @@
 #include <fstream>
 #include <vector>
 
+#include "host/attachments/open_file.h"
 #include "host/database/sqlite/connection.h"
 #include "host/errors.h"
 #include "host/folder/host_folder.h"
@@ -109,7 +110,9 @@ void make_all(std::string_view path, const CreateOptions& options) {
                                         " kann nicht geschrieben werden");
     }
     fs::permissions(ini, fs::perms::owner_read | fs::perms::owner_write);
+    OpenFile(unfinished.string(), OpenFile::Mode::Read).sync();
     fs::rename(unfinished, folder / "corvanta.db");
+    OpenFile(folder.string(), OpenFile::Mode::Folder).sync();
     undo.keep();
 }
 

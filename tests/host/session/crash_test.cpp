@@ -36,8 +36,12 @@ struct Note {
 // What the child does until it is killed.
 class Worker {
   public:
-    Worker(Connector& connector, std::string source, int notes, unsigned seed)
-        : connector_(connector), source_(std::move(source)), notes_(notes), random_(seed) {}
+    Worker(const Ref<HostSession>& session, std::string source, int notes, unsigned seed)
+        : session_(*session),
+          blob_(make_object<Blob>(session)),
+          source_(std::move(source)),
+          notes_(notes),
+          random_(seed) {}
 
     [[noreturn]] void work() {
         for (;;) {
@@ -70,30 +74,28 @@ class Worker {
         std::string number;
     };
 
-    host::Blob& blob() { return dynamic_cast<host::Blob&>(*connector_.Blob()); }
     // A number, a record with it, and a detail value of the record.
     Record add_record() {
         const Record record{
             .key = new_key(),
-            .number =
-                to_text(connector_.GetRecordset("SELECT Kennung_AKT FROM Std", {}).value_at(0))};
-        RecordSet rs = connector_.GetRecordset("SELECT * FROM AKT WHERE 1=2", {});
+            .number = to_text(session_.get_record_set("SELECT Kennung_AKT FROM Std").value_at(0))};
+        RecordSet rs = session_.get_record_set("SELECT * FROM AKT WHERE 1=2");
         rs.add_new();
         rs.set("DSN", record.key);
         rs.set("Kennung", record.number);
         rs.set("Notiz", std::string(random_() % 5'000, 'x'));
-        connector_.UpdateRecordset(rs, {});
-        RecordSet detail = connector_.GetRecordset("SELECT * FROM AKTDET WHERE 1=2", {});
+        session_.update_record_set(rs);
+        RecordSet detail = session_.get_record_set("SELECT * FROM AKTDET WHERE 1=2");
         detail.add_new();
         detail.set("DSN", new_key());
         detail.set("AKT_DSN", record.key);
-        connector_.UpdateRecordset(detail, {});
+        session_.update_record_set(detail);
         return record;
     }
     void record_in_unit() {
-        connector_.unit_of_work()->enter();
+        session_.unit_of_work().enter();
         const Record record = add_record();
-        connector_.unit_of_work()->leave();
+        session_.unit_of_work().leave();
         note('r', record.key, record.number);
     }
     void write_source() {
@@ -102,27 +104,27 @@ class Worker {
     }
     std::string attach() {
         write_source();
-        const std::string key = blob().SaveBlobFile(source_, "OWNER", content_kind);
-        keys_.push_back(blob().SaveBlobFile(source_, "OWNER", content_kind, key, true));
+        const std::string key = blob_->SaveBlobFile(source_, "OWNER", content_kind);
+        keys_.push_back(blob_->SaveBlobFile(source_, "OWNER", content_kind, key, true));
         return key;
     }
     void attachments_in_unit() {
-        connector_.unit_of_work()->enter();
+        session_.unit_of_work().enter();
         const std::array keys = {attach(), attach()};
-        connector_.unit_of_work()->leave();
+        session_.unit_of_work().leave();
         note('+', keys[0], "");
         note('+', keys[1], "");
     }
     void in_transaction() {
-        connector_.BeginTrans();
+        session_.begin_transaction();
         const Record record = add_record();
         const std::string key = attach();
         if (random_() % 2 == 0) {
             keys_.pop_back();
-            connector_.RollbackTrans();
+            session_.roll_back_transaction();
             return;
         }
-        connector_.CommitTrans();
+        session_.commit_transaction();
         note('r', record.key, record.number);
         note('+', key, "");
     }
@@ -131,13 +133,13 @@ class Worker {
             const std::string key = keys_.back();
             keys_.pop_back();
             note('-', key, "");
-            blob().DeleteBlobFile(key, "", content_kind, "");
+            blob_->DeleteBlobFile(key, "", content_kind, "");
         }
     }
     void replace() {
         if (!keys_.empty()) {
             write_source();
-            blob().SaveBlobFile(source_, "OWNER", content_kind, keys_[random_() % keys_.size()],
+            blob_->SaveBlobFile(source_, "OWNER", content_kind, keys_[random_() % keys_.size()],
                                 true);
         }
     }
@@ -148,7 +150,8 @@ class Worker {
         static_cast<void>(!write(notes_, &line, sizeof line));
     }
 
-    Connector& connector_;
+    HostSession& session_;
+    Ref<Blob> blob_;
     std::string source_;
     int notes_;
     std::mt19937 random_;
@@ -234,8 +237,12 @@ class KilledWriter : public ::testing::Test {
     }
     [[noreturn]] void work(unsigned seed, int notes) {
         try {
-            const Ref<Connector> own = log_on();
-            Worker(*own, folder_->path("quelle"), notes, seed).work();
+            // Checking a password would take most of the time.
+            HostFolder host_folder = HostFolder::open(path());
+            auto database = host_folder.open_database();
+            const auto session = make_object<HostSession>(std::move(host_folder),
+                                                          std::move(database), std::string());
+            Worker(session, folder_->path("quelle"), notes, seed).work();
         } catch (const std::exception& error) {
             static_cast<void>(std::fprintf(stderr, "%s\n", error.what()));
             _exit(EXIT_FAILURE);
