@@ -1,6 +1,5 @@
 #include "host/maintenance/backup.h"
 
-#include <atomic>
 #include <fstream>
 #include <thread>
 
@@ -75,13 +74,12 @@ TEST_F(ABackup, IsNeverWrittenOverAnotherFile) {
 }
 
 TEST_F(ABackup, IsOfOneMomentWhileOthersWriteAndDelete) {
-    std::atomic<bool> is_done = false;
-    std::thread writer([&] {
+    std::jthread writer([&](const std::stop_token& stop) {
         const Ref<Connector> other = log_on();
         auto& attachments = dynamic_cast<host::Blob&>(*other->Blob());
         const std::string source = folder.path("andere.txt");
         std::string key;
-        for (int i = 0; !is_done; ++i) {
+        for (int i = 0; !stop.stop_requested(); ++i) {
             std::ofstream(source) << std::string(50'000, static_cast<char>('a' + i % 26));
             other->BeginTrans();
             if (!key.empty()) {
@@ -110,7 +108,7 @@ TEST_F(ABackup, IsOfOneMomentWhileOthersWriteAndDelete) {
                                       {})
                         .at_end());
     }
-    is_done = true;
+    writer.request_stop();
     writer.join();
     connector = log_on();
     EXPECT_TRUE(check_folder(host_path(), nothing_to_tell).problems.empty());
