@@ -18,12 +18,22 @@ enum class HostError : std::int32_t {
     LockTimeout = -2147217871,       // somebody else held the database longer than the time-out
     RowChanged = -2147217864,        // somebody else changed or deleted the row in between
     LogonFailed = -2147217843,
-    Transaction = -2147168242,  // a transaction begun twice, or ended without being begun
-    Folder = -2147217865,       // no host folder, or one that cannot be used
-    Database = -2147467259,     // damaged file, full disk and the like
+    StatementTooLong = -2147217842,  // a reading statement ran longer than the settings allow
+    Transaction = -2147168242,       // a transaction begun twice, or ended without being begun
+    Folder = -2147217865,            // no host folder, or one that cannot be used
+    NoRights = -2147024891,          // folder or file may not be read or written
+    DiskFull = -2147024784,
+    Damaged = -2147023504,   // the database file, an attachment or a backup
+    Database = -2147467259,  // any other failure of disk or system
 };
 
 [[noreturn]] void raise(HostError error, std::string description);
+
+// What an error number of the system means.
+bool is_disk_full(int system_error) noexcept;
+bool is_missing_right(int system_error) noexcept;
+// DiskFull, NoRights or, for anything else, Folder: "what: the system's reason."
+[[noreturn]] void raise_system_failure(int system_error, const std::string& what);
 
 // 'text', as messages quote names and paths.
 std::string in_quotes(std::string_view text);

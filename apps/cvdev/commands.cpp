@@ -2,9 +2,9 @@
 
 #include <unistd.h>
 
-#include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 #include <vector>
 
@@ -12,63 +12,49 @@
 #include "cvdeveloper/automation/reference.h"
 #include "cvdeveloper/public_classes.h"
 #include "host/folder/create_folder.h"
+#include "maintenance.h"
+#include "options.h"
+#include "terminal_progress.h"
+#include "user.h"
 #include "write_reference.h"
 
 namespace cvdev {
 
 namespace {
 
-using Words = std::span<const std::string>;
-
-struct Options {
-    std::vector<std::string> words;
-    std::vector<std::string> flags;
-
-    [[nodiscard]] bool has(std::string_view flag) const {
-        return std::ranges::find(flags, flag) != flags.end();
-    }
-};
-
-Options read(Words arguments, std::span<const std::string_view> known_flags) {
-    Options options;
-    for (const std::string& argument : arguments) {
-        if (!argument.starts_with("--")) {
-            options.words.push_back(argument);
-        } else if (std::ranges::find(known_flags, argument) != known_flags.end()) {
-            options.flags.push_back(argument);
-        } else {
-            throw UsageError{"unknown option " + argument};
-        }
-    }
-    return options;
-}
-
-const std::string& only_folder(const Options& options) {
-    if (options.words.size() != 1) {
-        throw UsageError{"one FOLDER is needed"};
-    }
-    return options.words.front();
-}
+namespace fs = std::filesystem;
 
 int init(Words arguments) {
     constexpr std::array<std::string_view, 1> flags{"--sample"};
-    const Options options = read(arguments, flags);
+    const Options options = read_options(arguments, flags);
     const std::string& folder = only_folder(options);
     const bool sample = options.has("--sample");
-    cvdeveloper::standalone::create_folder(folder, {.sample = sample});
+    TerminalProgress progress("Beispieldaten");
+    cvdeveloper::standalone::create_folder(folder,
+                                           {.sample = sample, .progress = std::ref(progress)});
+    progress.clear();
     std::cout << folder << " ist angelegt" << (sample ? ", mit Beispieldaten" : "")
               << ". Benutzer: chef, Kennwort: leer.\n";
     return EXIT_SUCCESS;
 }
 
+// The folder of the Python package: beside an installed program, else that of the build.
+std::string python_path() {
+    std::error_code error;
+    const fs::path program = fs::read_symlink("/proc/self/exe", error);
+    const fs::path installed = program.parent_path() / CVDEV_INSTALLED_PYTHON_PATH;
+    return fs::exists(installed / "cvdeveloper", error) ? installed.lexically_normal().string()
+                                                        : CVDEV_PYTHON_PATH;
+}
+
 // Hands over to the interpreter, with app connected.
 int shell(Words arguments) {
-    const Options options = read(arguments, {});
+    const Options options = read_options(arguments);
     const std::string folder = only_folder(options);
     const std::string start =
         "import sys, cvdeveloper; app = cvdeveloper.connect(sys.argv[1]); "
         "print('app ist mit', sys.argv[1], 'verbunden. help(app) zeigt, was es kann.')";
-    std::string path = CVDEV_PYTHON_PATH;
+    std::string path = python_path();
     if (const char* others = std::getenv("PYTHONPATH"); others != nullptr && *others != '\0') {
         path.append(":").append(others);
     }
@@ -87,7 +73,7 @@ int shell(Words arguments) {
 
 int interface(Words arguments) {
     constexpr std::array<std::string_view, 2> flags{"--idl", "--reference"};
-    const Options options = read(arguments, flags);
+    const Options options = read_options(arguments, flags);
     if (options.has("--reference")) {
         write_reference(only_folder(options),
                         cvdeveloper::reference_pages(cvdeveloper::documented_classes(),
@@ -115,6 +101,13 @@ constexpr Command all[] = {
     {"shell", "FOLDER", "opens Python with app connected to the host folder", shell},
     {"interface", "[--idl | --reference FOLDER]",
      "lists the operations, prints them as IDL, or writes the reference pages", interface},
+    {"user", "list FOLDER | add FOLDER NAME [--admin] | passwd FOLDER NAME",
+     "lists users, adds one, changes a password; asks for passwords, or reads one line", user},
+    {"check", "FOLDER",
+     "verifies database and attachments and says what is wrong; exit code 1 then", check},
+    {"backup", "FOLDER FILE",
+     "writes everything of a host folder into a tar file while others go on working", backup},
+    {"restore", "FILE FOLDER", "makes a host folder from a backup and verifies it", restore},
 };
 
 }  // namespace

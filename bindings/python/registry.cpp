@@ -107,11 +107,20 @@ PyObject* set_message_handler_from_python(PyObject* module, PyObject* handler) {
     });
 }
 
-// Calls the function and gives back the messages that it would have shown.
-PyObject* messages_of(PyObject* module, PyObject* function) {
+// Calls the function and gives back the messages that it would have shown. Where the last one is
+// the text given, the error that it hides is raised instead.
+PyObject* messages_of(PyObject* module, PyObject* arguments) {
     return guarded(state_of(module), [&] {
+        PyObject* function = nullptr;
+        const char* hiding = nullptr;
+        if (PyArg_ParseTuple(arguments, "Os:_messages_of", &function, &hiding) == 0) {
+            throw PythonError{};
+        }
         const MessageCapture capture;
         const Owned result = checked(PyObject_CallNoArgs(function));
+        if (capture.cause() && capture.messages().back() == hiding) {
+            std::rethrow_exception(capture.cause());
+        }
         Owned list = checked(PyList_New(0));
         for (const std::string& message : capture.messages()) {
             check(PyList_Append(list.get(), text_to_python(message).get()));
@@ -185,7 +194,7 @@ PyMethodDef registry_functions[] = {
      "Has handler(text) called for each message box; None restores standard error."},
     {"_create_host_folder", create_host_folder, METH_VARARGS, nullptr},
     {"_start_host_application", start_host_application, METH_VARARGS, nullptr},
-    {"_messages_of", messages_of, METH_O, nullptr},
+    {"_messages_of", messages_of, METH_VARARGS, nullptr},
     {"_let_go_of_everything", let_go_of_everything, METH_NOARGS, nullptr},
     {nullptr, nullptr, 0, nullptr},
 };

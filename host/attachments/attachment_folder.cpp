@@ -68,6 +68,19 @@ bool AttachmentFolder::hold_alone() {
     return true;
 }
 
+// The locks of the host folder itself say who may remove: this folder's own say who stores.
+std::unique_ptr<OpenFile> AttachmentFolder::keep_everything() {
+    hold();
+    auto kept = std::make_unique<OpenFile>(path_.parent_path().string(), OpenFile::Mode::Folder);
+    kept->lock_alone();
+    return kept;
+}
+
+std::unique_ptr<OpenFile> AttachmentFolder::removing() const {
+    auto folder = std::make_unique<OpenFile>(path_.parent_path().string(), OpenFile::Mode::Folder);
+    return folder->try_lock_shared() ? std::move(folder) : nullptr;
+}
+
 StoredContent AttachmentFolder::take_in(std::string_view source) {
     OpenFile from(source, OpenFile::Mode::Read);
     StoredContent stored{.name = new_key(), .content = {}, .source = from.state()};
@@ -91,12 +104,16 @@ StoredContent AttachmentFolder::take_in(std::string_view source) {
 }
 
 std::uint64_t AttachmentFolder::copy_out(std::string_view name, const std::string& target) const {
+    OpenFile from = read(name);
+    OpenFile to(target, OpenFile::Mode::CreateNew);
+    return copy_bytes(from, to);
+}
+
+OpenFile AttachmentFolder::read(std::string_view name) const {
     if (!is_key(name)) {
         raise(RuntimeError::FileNotFound, name);
     }
-    OpenFile from(path_of(name), OpenFile::Mode::Read);
-    OpenFile to(target, OpenFile::Mode::CreateNew);
-    return copy_bytes(from, to);
+    return {path_of(name), OpenFile::Mode::Read};
 }
 
 void AttachmentFolder::remove(std::string_view name) const noexcept {

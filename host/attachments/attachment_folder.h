@@ -31,6 +31,12 @@ class AttachmentFolder {
     // Holds the folder where nobody else does.
     bool hold_alone();
 
+    // Content that rows named when this returns stays until the result goes, whatever becomes of
+    // the rows.
+    [[nodiscard]] std::unique_ptr<OpenFile> keep_everything();
+    // Content may be removed while the result lives; nothing while somebody keeps everything.
+    [[nodiscard]] std::unique_ptr<OpenFile> removing() const;
+
     // Copies a file into the folder, which is held from then on: to a temporary name, synced,
     // renamed. Errors: 53 for no such file; what the disk says, with the file to be stored.
     StoredContent take_in(std::string_view source);
@@ -38,6 +44,8 @@ class AttachmentFolder {
     std::uint64_t copy_out(std::string_view name, const std::string& target) const;
     // What cannot be removed now is left to the next clean-up.
     void remove(std::string_view name) const noexcept;
+    // A file of that name, to be read. Error 53 where there is none.
+    [[nodiscard]] OpenFile read(std::string_view name) const;
     // What the folder has ever given a name and is still there, half-written files too. Other
     // files are somebody else's.
     [[nodiscard]] std::vector<std::string> names() const;

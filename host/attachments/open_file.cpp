@@ -23,6 +23,8 @@ int flags_of(OpenFile::Mode mode) {
             return O_RDONLY | O_NONBLOCK;  // a pipe without a writer must not hang
         case OpenFile::Mode::CreateNew:
             return O_WRONLY | O_CREAT | O_EXCL;
+        case OpenFile::Mode::Append:
+            return O_WRONLY | O_CREAT | O_APPEND;
         case OpenFile::Mode::Folder:
             return O_RDONLY | O_DIRECTORY;
     }
@@ -110,6 +112,12 @@ void OpenFile::sync() {
     }
 }
 
+void OpenFile::sync_file_system() {
+    if (syncfs(descriptor_) != 0) {
+        files::raise_file_error(errno, path_);
+    }
+}
+
 FileState OpenFile::state() const {
     const struct stat status = status_of(descriptor_, path_);
     return {.device = status.st_dev,
@@ -122,6 +130,15 @@ FileState OpenFile::state() const {
 bool OpenFile::lock_shared() {
     const BlockingScope waiting;
     return lock(descriptor_, LOCK_SH);
+}
+
+bool OpenFile::try_lock_shared() {
+    return lock(descriptor_, LOCK_SH | LOCK_NB);
+}
+
+bool OpenFile::lock_alone() {
+    const BlockingScope waiting;
+    return lock(descriptor_, LOCK_EX);
 }
 
 bool OpenFile::try_lock_alone() {

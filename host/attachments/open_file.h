@@ -29,6 +29,7 @@ class OpenFile {
     enum class Mode : std::uint8_t {
         Read,       // an ordinary file; error 53 where there is none, 75 for anything else
         CreateNew,  // for its owner's eyes only
+        Append,     // the same, made where it is missing
         Folder,
     };
 
@@ -46,9 +47,16 @@ class OpenFile {
     void sync();
     [[nodiscard]] FileState state() const;
 
-    // Locks of the whole file, which end with its owner and with its process. The shared one is
-    // waited for. False where it is not to be had.
+    // Everything written on its file system outlives a power failure from here on.
+    void sync_file_system();
+    // For libraries that read or write by themselves.
+    [[nodiscard]] int descriptor() const noexcept { return descriptor_; }
+
+    // Locks of the whole file, which end with its owner and with its process. Those without "try"
+    // are waited for. False where it is not to be had.
     bool lock_shared();
+    bool try_lock_shared();
+    bool lock_alone();
     bool try_lock_alone();
 
   private:

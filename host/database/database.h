@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -38,6 +39,13 @@ class Statement {
     virtual std::int64_t execute(std::span<const Value> values) = 0;
 };
 
+// What has reached the disk when a write returns.
+enum class Sync : std::uint8_t {
+    EachCommit,   // everything
+    Checkpoints,  // a power failure may cost the last transactions, never the file
+    Never,        // a power failure may cost the file
+};
+
 // Whose statement it is. A caller's is held to one read-only SELECT.
 enum class Author : std::uint8_t { Host, Caller };
 
@@ -54,11 +62,18 @@ class Database {
     // Runs several statements of the host's own, such as the schema.
     virtual void run_script(const std::string& script) = 0;
 
+    // Copies the database as it is at this moment into a file, which nobody but its owner may read;
+    // others go on writing meanwhile. progress() is told the share that is done. Errors: those of
+    // the disk; the file is gone then.
+    virtual void copy_to(const std::string& path, const std::function<void(double)>& progress) = 0;
+
     // Readers and a writer do not stand in each other's way from here on. The file keeps it.
     virtual void use_write_ahead_log() = 0;
 
     // A writing transaction, begun at once so that it cannot fail for somebody else's later.
     virtual void begin() = 0;
+    // A transaction that reads what is there now, whatever others write meanwhile.
+    virtual void begin_reading() = 0;
     virtual void commit() = 0;
     virtual void rollback() noexcept = 0;
     virtual void set_savepoint() = 0;

@@ -1,9 +1,11 @@
 #include "host/folder/create_folder.h"
 
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <vector>
 
+#include "host/attachments/open_file.h"
 #include "host/database/sqlite/connection.h"
 #include "host/errors.h"
 #include "host/folder/host_folder.h"
@@ -25,8 +27,12 @@ constexpr std::string_view default_ini =
     "Datei = corvanta.db\n"
     "; Sekunden, die auf einen anderen Benutzer gewartet wird\n"
     "Wartezeit = 10\n"
+    "; Sekunden, nach denen eine lesende Anweisung abgebrochen wird; 0: nie\n"
+    "Laufzeit = 60\n"
     "; voll: jede Änderung ist sofort auf dem Datenträger. schnell: bei Stromausfall können die\n"
-    "; letzten Änderungen verloren gehen, die Datenbank selbst bleibt heil.\n"
+    "; letzten Änderungen verloren gehen, die Datenbank selbst bleibt heil. ohne: bei "
+    "Stromausfall\n"
+    "; kann die ganze Datenbank beschädigt werden.\n"
     "Sicherheit = voll\n"
     "\n"
     "[Kennungen]\n"
@@ -61,15 +67,16 @@ void make_folder(const fs::path& folder, Undo& undo) {
 
 void fill_database(const fs::path& file, const CreateOptions& options) {
     // Syncing each step would only slow this down: the file gets its name when it is complete.
-    sqlite::Connection database(file.string(), {.create = true, .full_sync = false});
+    sqlite::Connection database(file.string(), {.create = true, .sync = Sync::Never});
     fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
     const fs::path schema = schema_folder();
     database.begin();
     database.run_script(read_schema_file(schema / "schema.sql"));
     database.read_catalog();
-    load_rows(database, schema / "base");
+    load_rows(database, schema / "base", nothing_to_tell);
     if (options.sample) {
-        load_rows(database, schema / "sample");
+        load_rows(database, schema / "sample",
+                  [&](std::string_view table, double share) { options.progress(table, share); });
     }
     Users users(database);
     users.make_administrator(options.user);
@@ -99,11 +106,13 @@ void make_all(std::string_view path, const CreateOptions& options) {
     file << default_ini;
     file.close();
     if (!file) {
-        raise(HostError::Folder, "Im Ordner '" + std::string(path) +
-                                     "' kann die Datei corvanta.ini nicht geschrieben werden.");
+        raise_system_failure(errno, "Die Datei corvanta.ini im Ordner " + in_quotes(path) +
+                                        " kann nicht geschrieben werden");
     }
     fs::permissions(ini, fs::perms::owner_read | fs::perms::owner_write);
+    OpenFile(unfinished.string(), OpenFile::Mode::Read).sync();
     fs::rename(unfinished, folder / "corvanta.db");
+    OpenFile(folder.string(), OpenFile::Mode::Folder).sync();
     undo.keep();
 }
 
@@ -113,9 +122,8 @@ void create_folder(std::string_view path, const CreateOptions& options) {
     try {
         make_all(path, options);
     } catch (const fs::filesystem_error& error) {
-        raise(HostError::Folder, "Der Ordner '" + std::string(path) +
-                                     "' kann nicht angelegt werden: " + error.code().message() +
-                                     ".");
+        raise_system_failure(error.code().value(),
+                             "Der Ordner " + in_quotes(path) + " kann nicht angelegt werden");
     }
 }
 

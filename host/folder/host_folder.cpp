@@ -1,43 +1,95 @@
 #include "host/folder/host_folder.h"
 
+#include <cerrno>
 #include <charconv>
 #include <fstream>
 #include <iterator>
-#include <optional>
+#include <string>
 
 #include "host/database/sqlite/connection.h"
 #include "host/errors.h"
 #include "host/folder/ini_file.h"
+#include "host/folder/upgrade.h"
 #include "platform/text.h"
 
 namespace cvdeveloper::standalone {
 
 namespace {
 
-std::optional<std::string> read_file(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!file) {
-        return std::nullopt;
+class SettingsReader {
+  public:
+    SettingsReader(std::string_view folder, std::string_view text)
+        : folder_(folder), ini_(IniFile::parse(text)) {}
+
+    [[nodiscard]] std::string text(std::string_view section, std::string_view key,
+                                   std::string_view otherwise) const {
+        return ini_.get(section, key, otherwise);
     }
-    return std::string(std::istreambuf_iterator<char>(file), {});
-}
+    [[nodiscard]] int number(std::string_view section, std::string_view key, int otherwise) const {
+        const std::string text = ini_.get(section, key, "");
+        if (text.empty()) {
+            return otherwise;
+        }
+        int number = 0;
+        const char* const end = text.data() + text.size();
+        const auto [rest, error] = std::from_chars(text.data(), end, number);
+        if (error != std::errc() || rest != end || number < 0 || number > largest_number) {
+            refuse(key, text, "eine Zahl von 0 bis " + std::to_string(largest_number));
+        }
+        return number;
+    }
+    [[nodiscard]] Sync sync() const {
+        const std::string text = ini_.get("Datenbank", "Sicherheit", "voll");
+        if (equal_ignoring_case(text, "voll")) {
+            return Sync::EachCommit;
+        }
+        if (equal_ignoring_case(text, "schnell")) {
+            return Sync::Checkpoints;
+        }
+        if (!equal_ignoring_case(text, "ohne")) {
+            refuse("Sicherheit", text, "voll, schnell oder ohne");
+        }
+        return Sync::Never;
+    }
 
-int number_in(const std::string& text, int otherwise) {
-    int number = otherwise;
-    std::from_chars(text.data(), text.data() + text.size(), number);
-    return number < 0 ? otherwise : number;
-}
+  private:
+    static constexpr int largest_number = 100'000;
 
-Settings read_settings(std::string_view text) {
-    const IniFile ini = IniFile::parse(text);
+    [[noreturn]] void refuse(std::string_view key, std::string_view text,
+                             const std::string& possible) const {
+        raise(HostError::Folder, "In der Datei corvanta.ini im Ordner " + in_quotes(folder_) +
+                                     " steht bei " + std::string(key) + " " +
+                                     in_quotes(first_units(text, 60)) + "; möglich ist " +
+                                     possible + ".");
+    }
+
+    std::string_view folder_;
+    IniFile ini_;
+};
+
+Settings read_settings(std::string_view folder, std::string_view text) {
+    const SettingsReader ini(folder, text);
+    const auto seconds = [&](std::string_view key, std::chrono::seconds otherwise) {
+        return std::chrono::seconds(
+            ini.number("Datenbank", key, static_cast<int>(otherwise.count())));
+    };
     Settings settings;
-    settings.database_file = ini.get("Datenbank", "Datei", settings.database_file);
-    settings.timeout = std::chrono::seconds(number_in(ini.get("Datenbank", "Wartezeit", ""),
-                                                      static_cast<int>(settings.timeout.count())));
-    settings.full_sync =
-        !equal_ignoring_case(ini.get("Datenbank", "Sicherheit", "voll"), "schnell");
-    settings.number_digits = number_in(ini.get("Kennungen", "Stellen", ""), 0);
+    settings.database_file = ini.text("Datenbank", "Datei", settings.database_file);
+    settings.timeout = seconds("Wartezeit", settings.timeout);
+    settings.statement_limit = seconds("Laufzeit", settings.statement_limit);
+    settings.sync = ini.sync();
+    settings.number_digits = ini.number("Kennungen", "Stellen", 0);
     return settings;
+}
+
+// What a path leads to. Errors: NoRights where that must not be known.
+std::filesystem::file_status status_of(const std::filesystem::path& file, const std::string& what) {
+    std::error_code error;
+    const std::filesystem::file_status status = std::filesystem::status(file, error);
+    if (is_missing_right(error.value())) {
+        raise_system_failure(error.value(), what);
+    }
+    return status;
 }
 
 }  // namespace
@@ -49,51 +101,68 @@ std::filesystem::path disk_path(std::string_view path) {
 
 HostFolder HostFolder::open(std::string_view path) {
     const std::filesystem::path folder = disk_path(path);
-    std::error_code ignored;
-    if (!std::filesystem::is_directory(folder, ignored)) {
+    const std::string unreadable =
+        "Die Datei corvanta.ini im Ordner " + in_quotes(path) + " kann nicht gelesen werden";
+    if (!is_directory(status_of(folder, unreadable))) {
         raise(HostError::Folder, "Den Ordner " + in_quotes(path) + " gibt es nicht.");
     }
-    if (!std::filesystem::exists(folder / "corvanta.ini", ignored)) {
+    if (!exists(status_of(folder / "corvanta.ini", unreadable))) {
         raise(HostError::Folder, "Der Ordner " + in_quotes(path) +
                                      " ist kein Corvanta-Ordner: die Datei corvanta.ini fehlt.");
     }
-    const auto text = read_file(folder / "corvanta.ini");
-    if (!text) {
-        raise(HostError::Folder, "Die Datei corvanta.ini im Ordner " + in_quotes(path) +
-                                     " kann nicht gelesen werden.");
+    std::ifstream file(folder / "corvanta.ini", std::ios::binary);
+    if (!file) {
+        raise_system_failure(errno, unreadable);
     }
-    return {std::string(path), read_settings(*text)};
+    return {std::string(path),
+            read_settings(path, std::string(std::istreambuf_iterator<char>(file), {}))};
 }
 
 std::filesystem::path HostFolder::database_path() const {
     return disk_path(path_) / disk_path(settings_.database_file);
 }
 
-std::unique_ptr<Database> HostFolder::open_database() const {
+std::unique_ptr<sqlite::Connection> HostFolder::connect() const {
     const std::filesystem::path file = database_path();
-    std::error_code ignored;
-    if (!std::filesystem::exists(file, ignored)) {
+    if (!exists(status_of(
+            file, "Die Datenbank " + in_quotes(file.string()) + " kann nicht geöffnet werden"))) {
         raise(HostError::Folder, "Im Ordner " + in_quotes(path_) + " fehlt die Datenbank " +
                                      settings_.database_file + ".");
     }
     auto database = std::make_unique<sqlite::Connection>(
-        file.string(),
-        sqlite::OpenOptions{.timeout = settings_.timeout, .full_sync = settings_.full_sync});
+        file.string(), sqlite::OpenOptions{.timeout = settings_.timeout,
+                                           .statement_limit = settings_.statement_limit,
+                                           .sync = settings_.sync});
     if (database->catalog()->find("cv_password") == nullptr ||
         database->catalog()->find("Version") == nullptr) {
         raise(HostError::Folder, "Die Datei " + settings_.database_file + " im Ordner " +
                                      in_quotes(path_) + " ist keine Corvanta-Datenbank.");
     }
-    Rows version(1);
-    database->prepare("SELECT max(Version) + 0.0 FROM Version", Author::Host)->query({}, version);
-    if (!version[0][0].is_null() && version[0][0].number > schema_version) {
+    if (version_of(*database) > schema_version) {
         raise(HostError::Folder,
               "Die Datenbank im Ordner " + in_quotes(path_) +
                   " stammt von einer neueren Version dieses Programms; bitte dieses Programm "
                   "aktualisieren.");
     }
+    return database;
+}
+
+std::unique_ptr<Database> HostFolder::open_database_unchanged() const {
+    return connect();
+}
+
+std::unique_ptr<Database> HostFolder::open_database() const {
+    std::unique_ptr<sqlite::Connection> database = connect();
+    if (version_of(*database) < schema_version) {
+        upgrade(*database, database_path(), log());
+        database->read_catalog();
+    }
     database->use_write_ahead_log();
     return database;
+}
+
+HostLog HostFolder::log() const {
+    return HostLog(disk_path(path_) / "corvanta.log");
 }
 
 }  // namespace cvdeveloper::standalone

@@ -50,7 +50,8 @@ void load_file(Database& database, const std::filesystem::path& file) {
 
 }  // namespace
 
-void load_rows(Database& database, const std::filesystem::path& folder) {
+void load_rows(Database& database, const std::filesystem::path& folder,
+               const Progression& progress) {
     std::vector<std::filesystem::path> files;
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
         if (entry.path().extension() == ".csv") {
@@ -58,8 +59,11 @@ void load_rows(Database& database, const std::filesystem::path& folder) {
         }
     }
     std::ranges::sort(files);
+    double done = 0;
     for (const std::filesystem::path& file : files) {
+        progress(name_of(file), done / static_cast<double>(files.size()));
         load_file(database, file);
+        ++done;
     }
 }
 

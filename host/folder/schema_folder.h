@@ -5,7 +5,8 @@
 
 namespace cvdeveloper::standalone {
 
-// The folder of schema.sql, base and sample.
+// The folder of schema.sql, base, sample and upgrades: CVDEVELOPER_SCHEMA where that is set, else
+// the one installed with this program, else the source tree's.
 std::filesystem::path schema_folder();
 
 // Errors: Folder where the file is missing.

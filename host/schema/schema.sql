@@ -977,6 +977,13 @@ CREATE TABLE cv_password (
     changed       DATETIME
 );
 
+-- Failed log-ons since the last one that succeeded.
+CREATE TABLE cv_logon (
+    Benutzer_DSN  CHAR(36) COLLATE CVTEXT NOT NULL PRIMARY KEY,  -- or ? and a number: names that nobody has
+    failures      INTEGER NOT NULL,
+    next_try      DOUBLE NOT NULL  -- seconds since 1970: nobody's turn before
+);
+
 -- Last human key given out, by the column of Std that asks for it.
 CREATE TABLE cv_counter (
     name         VARCHAR(50) COLLATE CVTEXT NOT NULL PRIMARY KEY,

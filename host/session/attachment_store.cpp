@@ -210,7 +210,7 @@ std::string AttachmentStore::open(std::string_view key) {
             OpenedCopy copy(row.source);
             const std::uint64_t size = folder_.copy_out(row.stored_name, copy.path());
             if (size != row.size) {
-                raise(HostError::Database,
+                raise(HostError::Damaged,
                       "Der gespeicherte Inhalt ist unvollständig: " + std::to_string(size) +
                           " statt " + std::to_string(row.size) + " Bytes.");
             }
@@ -241,8 +241,10 @@ void AttachmentStore::settle_unless_in_transaction() noexcept {
 
 void AttachmentStore::settle() noexcept {
     try {
+        // While somebody makes a backup everything stays; the next log-on cleans up.
+        const auto removing = doubts_.empty() ? nullptr : folder_.removing();
         for (const std::string& name : doubts_) {
-            if (!is_named(name)) {
+            if (removing != nullptr && !is_named(name)) {
                 folder_.remove(name);
             }
         }

@@ -7,7 +7,7 @@
 #include "cvdeveloper/automation/runtime_errors.h"
 #include "host/errors.h"
 #include "host/rules/address_rule.h"
-#include "host/session/users.h"
+#include "host/session/log_on.h"
 
 namespace cvdeveloper::standalone {
 
@@ -52,7 +52,7 @@ Ref<HostSession> HostSession::log_on(std::string_view path, std::string_view use
                                      std::string_view password) {
     HostFolder folder = HostFolder::open(path);
     std::unique_ptr<Database> database = folder.open_database();
-    std::string user_key = Users(*database).log_on(user, password);
+    std::string user_key = check_logon(*database, folder.log(), user, password);
     const auto session =
         make_object<HostSession>(std::move(folder), std::move(database), std::move(user_key));
     session->clean_up();

@@ -114,6 +114,7 @@ MessageCapture::~MessageCapture() {
 void show_message(std::string_view text) {
     if (capture != nullptr) {
         capture->messages_.emplace_back(text);
+        capture->cause_ = std::current_exception();
         return;
     }
     Registry& all = registry();

@@ -4,6 +4,11 @@
 
 namespace cvdeveloper::standalone::testing {
 
+std::filesystem::path folder_in_memory() {
+    const std::filesystem::path memory = "/dev/shm";
+    return std::filesystem::is_directory(memory) ? memory : std::filesystem::temp_directory_path();
+}
+
 std::filesystem::path prepared_folder(bool sample) {
     static const TemporaryFolder folder;
     const std::filesystem::path path = folder.path(sample ? "muster" : "leer");

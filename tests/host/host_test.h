@@ -14,11 +14,16 @@
 
 namespace cvdeveloper::standalone::testing {
 
+// Where files are kept in memory, for tests that write much: killing a process loses no less there
+// than on a disk.
+std::filesystem::path folder_in_memory();
+
 // A folder that goes with the test.
 class TemporaryFolder {
   public:
-    TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "cvhost-XXXXXX").string();
+    explicit TemporaryFolder(
+        const std::filesystem::path& where = std::filesystem::temp_directory_path()) {
+        std::string name = (where / "cvhost-XXXXXX").string();
         path_ = mkdtemp(name.data());
     }
     TemporaryFolder(const TemporaryFolder&) = delete;

@@ -7,6 +7,7 @@ from ._values import AutomationError
 
 CANNOT_CREATE_OBJECT = 429
 NOT_INITIALISED = 601
+# The message box hides what the connector said: its own error is raised instead.
 LOG_ON_FAILED = "Anmeldung in CVConnector ist fehlgeschlagen."
 
 
@@ -22,13 +23,10 @@ def connect(folder: str, user: str = "chef", password: str = "") -> "_cvdevelope
     folder = str(folder)
     app = _cvdeveloper.Application()
     messages = _cvdeveloper._messages_of(
-        lambda: app.Corvanta_InitConnector(folder, user, password)
+        lambda: app.Corvanta_InitConnector(folder, user, password), LOG_ON_FAILED
     )
     if app.Corvanta_InitType == _cvdeveloper.enumInitType.INITTYPE_CONNECTOR:
         return app
-    if messages == [LOG_ON_FAILED]:
-        # The message box hides what the connector said: it is asked once more, for its own error.
-        app.Corvanta_Connector.Logon(folder.removesuffix("\\"), user, password.upper())
     raise AutomationError(CANNOT_CREATE_OBJECT, "", " ".join(messages))
 
 

@@ -31,10 +31,13 @@ constexpr std::string_view allowed_functions[] = {
 };
 static_assert(std::ranges::is_sorted(allowed_functions));
 
-constexpr std::string_view hidden_table = "cv_password";
+// What concerns log-ons is nobody's to read.
+constexpr std::string_view hidden_tables[] = {"cv_password", "cv_logon"};
 
 bool may_read(const Catalog* catalog, std::string_view table, std::string_view column) {
-    if (sql::equal_names(table, hidden_table)) {
+    if (std::ranges::any_of(hidden_tables, [table](std::string_view hidden) {
+            return sql::equal_names(table, hidden);
+        })) {
         return false;
     }
     // A table that lends no column may also be a subquery with a name.

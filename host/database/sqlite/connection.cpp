@@ -5,8 +5,10 @@
 #include <thread>
 
 #include "cvdeveloper/automation/error.h"
+#include "host/database/sqlite/backup_database.h"
 #include "host/database/sqlite/functions.h"
 #include "host/database/sqlite/prepared_statement.h"
+#include "host/database/sqlite/system_error.h"
 #include "host/errors.h"
 
 namespace cvdeveloper::standalone::sqlite {
@@ -18,6 +20,43 @@ constexpr int steps_of_a_short_statement = 10000;
 
 // How often a long statement asks whether the user wants to stop it.
 constexpr std::chrono::milliseconds pause_between_checks(50);
+
+constexpr std::string_view name_of(Sync sync) noexcept {
+    switch (sync) {
+        case Sync::EachCommit:
+            return "FULL";
+        case Sync::Checkpoints:
+            return "NORMAL";
+        case Sync::Never:
+            return "OFF";
+    }
+    return "FULL";
+}
+
+std::string seconds(std::chrono::milliseconds time) {
+    const auto count = std::chrono::duration_cast<std::chrono::seconds>(time).count();
+    return std::to_string(count) + (count == 1 ? " Sekunde" : " Sekunden");
+}
+
+// The database's own code hides some causes; the system has the last word.
+HostError kind_of_failure(int code, int system_error) {
+    switch (code & 0xFF) {
+        case SQLITE_CORRUPT:
+        case SQLITE_NOTADB:
+            return HostError::Damaged;
+        case SQLITE_FULL:
+            return HostError::DiskFull;
+        case SQLITE_PERM:
+        case SQLITE_READONLY:
+            return HostError::NoRights;
+        default:
+            break;
+    }
+    if (is_disk_full(system_error)) {
+        return HostError::DiskFull;
+    }
+    return is_missing_right(system_error) ? HostError::NoRights : HostError::Database;
+}
 
 // Nothing but white space and semicolons may follow a statement.
 bool is_blank(std::string_view text) noexcept {
@@ -32,7 +71,8 @@ void stop_counting_memory() {
 
 }  // namespace
 
-Connection::Connection(const std::string& path, const OpenOptions& options) : options_(options) {
+Connection::Connection(const std::string& path, const OpenOptions& options)
+    : path_(path), options_(options) {
     stop_counting_memory();
     sqlite3* opened = nullptr;
     // One thread at a time is our own rule, so the database needs no lock of its own.
@@ -41,8 +81,11 @@ Connection::Connection(const std::string& path, const OpenOptions& options) : op
     const int code = sqlite3_open_v2(path.c_str(), &opened, flags, nullptr);
     handle_.reset(opened);
     if (code != SQLITE_OK) {
-        raise(HostError::Folder, "Die Datenbank '" + path +
-                                     "' kann nicht geöffnet werden: " + sqlite3_errstr(code) + ".");
+        raise_file_failure(code, sqlite3_errstr(code));
+    }
+    // The database would open a file that it may only read, and fail at the first write.
+    if (sqlite3_db_readonly(opened, "main") == 1) {
+        raise_file_failure(SQLITE_READONLY, sqlite3_errstr(SQLITE_READONLY));
     }
     sqlite3_busy_handler(opened, &on_busy, this);
     sqlite3_progress_handler(opened, steps_of_a_short_statement, &on_progress, this);
@@ -58,7 +101,7 @@ Connection::Connection(const std::string& path, const OpenOptions& options) : op
     run_script(
         "PRAGMA foreign_keys=OFF; PRAGMA temp_store=MEMORY; PRAGMA secure_delete=OFF;"
         "PRAGMA cache_size=-16000;");
-    run_script(options.full_sync ? "PRAGMA synchronous=FULL" : "PRAGMA synchronous=OFF");
+    run_script(std::string("PRAGMA synchronous=").append(name_of(options.sync)));
     begin_ = prepare("BEGIN IMMEDIATE", Author::Host);
     commit_ = prepare("COMMIT", Author::Host);
     rollback_ = prepare("ROLLBACK", Author::Host);
@@ -98,6 +141,13 @@ void Connection::run_script(const std::string& script) {
     }
 }
 
+void Connection::copy_to(const std::string& path, const std::function<void(double)>& progress) {
+    backup_database(handle_.get(), path, [&](double share) {
+        check_interrupt();
+        progress(share);
+    });
+}
+
 void Connection::use_write_ahead_log() {
     run_script("PRAGMA journal_mode=WAL");
 }
@@ -106,9 +156,14 @@ void Connection::begin() {
     begin_->execute({});
 }
 
+void Connection::begin_reading() {
+    // A transaction begins to read with its first statement.
+    run_script("BEGIN; SELECT count(*) FROM sqlite_schema");
+}
+
 void Connection::commit() {
     std::optional<BlockingScope> waiting;
-    if (options_.full_sync) {
+    if (options_.sync == Sync::EachCommit) {
         waiting.emplace();
     }
     commit_->execute({});
@@ -177,6 +232,8 @@ Connection::Running::Running(Connection& connection, Author author)
     : connection_(connection), before_(connection.access_.author) {
     connection.access_.author = author;
     connection.interrupted_ = false;
+    connection.long_since_.reset();
+    connection.is_over_limit_ = false;
     connection.users_interrupt_ = nullptr;
 }
 
@@ -194,7 +251,20 @@ void Connection::give_up_interpreter_lock() {
 int Connection::on_progress(void* self) {
     auto& connection = *static_cast<Connection*>(self);
     connection.give_up_interpreter_lock();
-    return connection.asked_to_stop() ? 1 : 0;
+    return connection.asked_to_stop() || connection.runs_too_long() ? 1 : 0;
+}
+
+// The clock starts with the first call: a short statement has not looked at it at all.
+bool Connection::runs_too_long() noexcept {
+    if (access_.author != Author::Caller || options_.statement_limit.count() == 0) {
+        return false;
+    }
+    const auto present = std::chrono::steady_clock::now();
+    if (!long_since_) {
+        long_since_ = present;
+    }
+    is_over_limit_ = present - *long_since_ >= options_.statement_limit;
+    return is_over_limit_;
 }
 
 bool Connection::asked_to_stop() noexcept {
@@ -237,32 +307,54 @@ void Connection::raise_failure(int code) {
     if (interrupted_) {
         throw Interrupt();
     }
+    if (is_over_limit_) {
+        raise(HostError::StatementTooLong,
+              "Die Anweisung wurde abgebrochen: sie läuft länger als " +
+                  seconds(options_.statement_limit) + ".");
+    }
     switch (code & 0xFF) {
         case SQLITE_INTERRUPT:
             throw Interrupt();
         case SQLITE_BUSY:
         case SQLITE_LOCKED:
             raise(HostError::LockTimeout, "Die Datenbank ist seit mehr als " +
-                                              std::to_string(options_.timeout.count() / 1000) +
-                                              " Sekunden von anderer Seite gesperrt.");
-        case SQLITE_CORRUPT:
-        case SQLITE_NOTADB:
-            raise(HostError::Database, "Die Datenbankdatei ist beschädigt: " + message + ".");
-        case SQLITE_FULL:
-            raise(HostError::Database, "Der Datenträger der Datenbank ist voll.");
-        case SQLITE_IOERR:
-        case SQLITE_CANTOPEN:
-        case SQLITE_READONLY:
-            raise(
-                HostError::Database,
-                "Die Datenbankdatei kann nicht gelesen oder geschrieben werden: " + message + ".");
+                                              seconds(options_.timeout) +
+                                              " von anderer Seite gesperrt.");
         case SQLITE_CONSTRAINT:
             raise(HostError::ValueRefused,
                   "Die Datenbank lehnt den Datensatz ab: " + message + ".");
         case SQLITE_NOMEM:
             throw std::bad_alloc();
+        case SQLITE_CORRUPT:
+        case SQLITE_NOTADB:
+        case SQLITE_FULL:
+        case SQLITE_IOERR:
+        case SQLITE_CANTOPEN:
+        case SQLITE_PERM:
+        case SQLITE_READONLY:
+            raise_file_failure(code, message);
         default:
             raise(HostError::StatementRefused, "Die Datenbank lehnt ab: " + message + ".");
+    }
+}
+
+void Connection::raise_file_failure(int code, const std::string& message) {
+    const std::string file = "Die Datenbank " + in_quotes(path_);
+    switch (kind_of_failure(code, system_error_of(handle_.get()))) {
+        case HostError::Damaged:
+            raise(HostError::Damaged,
+                  file + " ist beschädigt (" + message +
+                      "). cvdev check sagt, was ihr fehlt; cvdev restore macht aus einer Sicherung "
+                      "wieder einen Ordner.");
+        case HostError::DiskFull:
+            raise(HostError::DiskFull,
+                  file + " kann nicht geschrieben werden: der Datenträger ist voll.");
+        case HostError::NoRights:
+            raise(HostError::NoRights,
+                  file + " kann nicht geöffnet oder geschrieben werden: dafür fehlen die Rechte.");
+        default:
+            raise(HostError::Database,
+                  file + " kann nicht gelesen oder geschrieben werden: " + message + ".");
     }
 }
 

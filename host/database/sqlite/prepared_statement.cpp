@@ -73,7 +73,7 @@ std::size_t PreparedStatement::parameter_count() const noexcept {
 
 void PreparedStatement::bind(std::span<const Value> values) {
     // Outside a transaction a write ends with waiting for the disk.
-    if (writes_ && connection_.options_.full_sync && !connection_.in_transaction()) {
+    if (writes_ && connection_.options_.sync == Sync::EachCommit && !connection_.in_transaction()) {
         connection_.give_up_interpreter_lock();
     }
     int position = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -38,11 +39,14 @@ class MessageCapture {
     ~MessageCapture();
 
     [[nodiscard]] const std::vector<std::string>& messages() const noexcept { return messages_; }
+    // The error that was being handled when the last message was shown, or nothing.
+    [[nodiscard]] const std::exception_ptr& cause() const noexcept { return cause_; }
 
   private:
     friend void show_message(std::string_view text);
 
     std::vector<std::string> messages_;
+    std::exception_ptr cause_;
     MessageCapture* outer_;
 };
 

@@ -33,7 +33,10 @@ def target(table, column):
 
 
 def test_a_new_database_has_its_version_master_data_and_first_user(base):
-    assert [r["Version"] for r in rows(base, "Version")] == [1.0]
+    (version,) = rows(base, "Version")
+    assert version["Version"] == int(
+        re.search(r"schema_version = (\d+);", (FOLDER.parent / "folder" / "host_folder.h").read_text())[1]
+    )
     (std,) = rows(base, "Std")
     assert std["ANREDE"].split("\r\n")[0] == "Frau\tFrau\tSehr geehrte Frau {NACHNAME}"
     (chef,) = rows(base, "Benutzer")

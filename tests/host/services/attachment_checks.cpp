@@ -6,7 +6,7 @@
 #include <array>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 
 #include "cvdeveloper/automation/conversions.h"
 
@@ -32,7 +32,9 @@ std::string sha256_of(const std::string& text) {
 std::string text_of_file(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     EXPECT_TRUE(file) << path;
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
 }
 
 std::set<std::string> stored_files(const std::string& host_folder) {

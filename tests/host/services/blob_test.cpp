@@ -309,7 +309,7 @@ TEST_F(BlobTest, LostContentIsNamedByItsKey) {
 TEST_F(BlobTest, ShortenedContentIsNotHandedOut) {
     const std::string key = add("a.txt", "eins");
     std::ofstream(host_path() + "/Anlagen/" + *stored().begin()) << "ei";
-    expect_error(static_cast<std::int32_t>(HostError::Database), key, [&] { opened(key); });
+    expect_error(static_cast<std::int32_t>(HostError::Damaged), key, [&] { opened(key); });
 }
 
 TEST_F(BlobTest, FullDiskIsError61AndLeavesNothing) {

@@ -5,6 +5,7 @@
 #include "cvdeveloper/application.h"
 #include "cvdeveloper/automation/class_registry.h"
 #include "cvdeveloper/automation/conversions.h"
+#include "host/folder/host_folder.h"
 #include "host/host_test.h"
 #include "host/register.h"
 
@@ -40,7 +41,7 @@ TEST_F(RunningApplication, IsFoundByTheLibrary) {
     EXPECT_EQ(library->Corvanta_Application(), ObjectRef(running));
     EXPECT_EQ(library->Corvanta_Folder(), host_path());
     EXPECT_TRUE(library->Corvanta_IsAdmin());
-    EXPECT_EQ(library->Corvanta_DbVersion(), 1.0);
+    EXPECT_EQ(library->Corvanta_DbVersion(), schema_version);
     EXPECT_TRUE(library->oUtil());
     EXPECT_TRUE(library->oDbIni());
 }

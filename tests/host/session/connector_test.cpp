@@ -5,8 +5,10 @@
 #include "cvdeveloper/automation/class_registry.h"
 #include "cvdeveloper/automation/conversions.h"
 #include "host/errors.h"
+#include "host/folder/host_folder.h"
 #include "host/host_test.h"
 #include "host/register.h"
+#include "host/session/users.h"
 
 namespace cvdeveloper::standalone::testing {
 namespace {
@@ -18,14 +20,9 @@ std::int32_t number(HostError error) {
 using TheConnector = HostTest;
 
 TEST_F(TheConnector, RefusesEveryWrongLogonInTheSameWords) {
-    save([this] {
-        const RecordSet rs = select("SELECT * FROM Benutzer WHERE 1=2");
-        rs.add_new();
-        rs.set("DSN", "B2");
-        rs.set("Login_Name", "inaktiv");
-        rs.set("AKTIV", std::int16_t{0});
-        return rs;
-    }());
+    const auto database = HostFolder::open(host_path()).open_database();
+    Users(*database).add("inaktiv", "geheim", false);
+    database->run_script("UPDATE Benutzer SET AKTIV=0 WHERE Login_Name='inaktiv'");
     const auto refusal = [this](std::string_view user, std::string_view password) {
         const AutomationError error =
             error_of([&] { Connector().Logon(host_path(), user, password); });
@@ -36,7 +33,11 @@ TEST_F(TheConnector, RefusesEveryWrongLogonInTheSameWords) {
     };
     const std::string wrong_password = refusal("chef", "FALSCH");
     EXPECT_EQ(refusal("niemand", ""), wrong_password);
-    EXPECT_EQ(refusal("inaktiv", ""), wrong_password);
+    EXPECT_EQ(refusal("inaktiv", "FALSCH"), wrong_password);
+    EXPECT_EQ(
+        refusal("inaktiv", "GEHEIM"),
+        "Die Anmeldung von 'X' ist fehlgeschlagen: der Benutzer ist nicht aktiv und darf sich "
+        "nicht anmelden.");
 }
 
 TEST_F(TheConnector, TakesPasswordsInAnyCase) {

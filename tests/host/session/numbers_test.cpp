@@ -1,9 +1,11 @@
 #include <algorithm>
+#include <fstream>
 #include <set>
 #include <thread>
 #include <vector>
 
 #include "cvdeveloper/automation/conversions.h"
+#include "host/folder/host_folder.h"
 #include "host/host_test.h"
 #include "host/keys.h"
 
@@ -80,6 +82,23 @@ TEST_F(NumbersGivenOut, AreHandedOutOnceEachInsideUnitsOfWork) {
         stored.insert(to_text(rs.value_at(0)));
     }
     EXPECT_EQ(stored, std::set<std::string>(numbers.begin(), numbers.end()));
+}
+
+TEST_F(NumbersGivenOut, HaveTheFormThatTheSettingsSay) {
+    std::ofstream(host_path() + "/corvanta.ini") << "[Kennungen]\nStellen=7\n";
+    const auto set_prefix = [this](const std::string& prefix, int last) {
+        HostFolder::open(host_path())
+            .open_database()
+            ->run_script("UPDATE cv_counter SET prefix='" + prefix +
+                         "', last_number=" + std::to_string(last) + " WHERE name='Kennung_AKT'");
+    };
+    connector = log_on();
+    set_prefix("A-", 41);
+    EXPECT_EQ(take(*connector), "A-0000042 ");
+    set_prefix("", 12'345'678);
+    EXPECT_EQ(take(*connector), "12345679  ");
+    set_prefix("LANG-", 9'999'999);
+    EXPECT_EQ(take(*connector), "LANG-10000000") << "a wide number is not cut";
 }
 
 TEST_F(NumbersGivenOut, OfATransactionThatIsRolledBackAreFreeAgain) {

@@ -85,6 +85,24 @@ TEST_F(ATransaction, IsNotBegunTwiceAndNotEndedUnbegun) {
     connector->CommitTrans();
 }
 
+TEST_F(ATransaction, TakesTenThousandRecordsWithTheirNumbers) {
+    constexpr int records = 10'000;
+    connector->BeginTrans();
+    for (int i = 0; i < records; ++i) {
+        unit().enter();
+        RecordSet rs = select("SELECT * FROM AKT WHERE 1=2");
+        rs.add_new();
+        rs.set("DSN", std::to_string(i));
+        rs.set("Kennung", select("SELECT Kennung_AKT FROM Std").value_at(0));
+        save(rs);
+        unit().leave();
+    }
+    EXPECT_EQ(single("SELECT count(DISTINCT Kennung) FROM AKT"), Variant(records));
+    EXPECT_EQ(seen_by_others(), 0);
+    connector->CommitTrans();
+    EXPECT_EQ(seen_by_others(), records);
+}
+
 TEST_F(ATransaction, GoesWithItsSession) {
     connector->BeginTrans();
     add_activity("a");

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "host/services/progress_bar.h"
+
+namespace cvdev {
+
+// How far a command has come, on standard error: a bar where that is a terminal, else a line for
+// each step. The bar goes with its owner.
+class TerminalProgress {
+  public:
+    explicit TerminalProgress(std::string_view what);
+
+    void operator()(std::string_view step, double share);
+    // Before anything else is written to the terminal.
+    void clear() noexcept { bar_.clear(); }
+
+  private:
+    std::string what_;
+    std::string step_;
+    bool is_terminal_;
+    cvdeveloper::standalone::ProgressBar bar_;
+};
+
+}  // namespace cvdev
