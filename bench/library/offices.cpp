@@ -107,7 +107,7 @@ void choose_speed(const std::string& folder) {
     std::ifstream in(file);
     std::string text(std::istreambuf_iterator<char>(in), {});
     const std::string safe = "\nSicherheit = voll";
-    text.replace(text.find(safe), safe.size(), "\nSicherheit = schnell");
+    text.replace(text.find(safe), safe.size(), "\nSicherheit = ohne");
     std::ofstream(file) << text;
 }
 
