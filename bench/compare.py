@@ -101,7 +101,7 @@ def measure(workload: Workload, offices: Offices, options: argparse.Namespace) -
             runs = {side: worker.run for side, worker in workers.items()}
             for run in runs.values():
                 run(1)
-            count = runs_for(runs[workload.base], options.seconds)
+            count = workload.runs or runs_for(runs[workload.base], options.seconds)
             on_disk = workload.full_sync
             times = interleaved(runs, count, options.rounds, os.sync if on_disk else lambda: None)
             base = times[workload.base]

@@ -80,7 +80,7 @@ Workload find_rows(const Connection& database) {
 
 Workload copy_project(const Connection& database, const std::string& folder) {
     const auto peer = std::make_shared<CopyByHand>(*database, folder);
-    return {.run = [database, peer] { peer->copy(project_key(1), new_key()); }};
+    return {.run = [database, peer] { peer->copy(project_key(copied_project), new_key()); }};
 }
 
 Workload cross_table(const Connection& database) {

@@ -8,6 +8,7 @@
 #include <ctime>
 #include <fstream>
 #include <map>
+#include <random>
 #include <stdexcept>
 
 namespace cvdeveloper::bench {
@@ -42,10 +43,16 @@ const std::string& statement(std::string_view name) {
 }
 
 std::string new_key() {
-    static unsigned number = 0;
+    static std::mt19937_64 numbers{std::random_device{}()};
+    const std::uint64_t first = numbers();
+    const std::uint64_t second = numbers();
     std::array<char, 37> text{};
-    std::snprintf(text.data(), text.size(), "BE4C0000-0000-4000-8000-%06X%06X",
-                  static_cast<unsigned>(getpid()) & 0xFFFFFFU, ++number);
+    std::snprintf(text.data(), text.size(), "%08X-%04X-4%03X-%04X-%012llX",
+                  static_cast<unsigned>(first >> 32U),
+                  static_cast<unsigned>(first >> 16U) & 0xFFFFU,
+                  static_cast<unsigned>(first) & 0xFFFU,
+                  (static_cast<unsigned>(second >> 48U) & 0x3FFFU) | 0x8000U,
+                  static_cast<unsigned long long>(second & 0xFFFFFFFFFFFFU));
     return text.data();
 }
 

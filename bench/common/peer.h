@@ -11,6 +11,7 @@ namespace cvdeveloper::bench {
 // A statement of statements.sql by its name.
 const std::string& statement(std::string_view name);
 
+// A random key, as the library makes them: new rows spread over the indexes.
 std::string new_key();
 
 // A human key as the host gives it: prefix and number, ten characters at least.
