@@ -12,6 +12,7 @@ import sys
 import tempfile
 from pathlib import Path
 
+import same_work
 from machine import machine
 from rounds import interleaved, ratio, runs_for
 from table import Line, print_table
@@ -85,6 +86,22 @@ def start(workload: Workload, side: str, offices: Offices, keep: contextlib.Exit
     return worker
 
 
+def check_same_work(workload: Workload, offices: Offices, options: argparse.Namespace) -> None:
+    """One run of each side, and what it has written."""
+    if not workload.office or workload.shares_office:
+        return
+    before = same_work.Office(offices.get(workload.office, workload.full_sync))
+    done = {}
+    for side in sides_of(workload, options.peers):
+        with contextlib.ExitStack() as keep:
+            worker = start(workload, side, offices, keep)
+            worker.run(1)
+            done[side] = before.changes(worker.folder)
+    for side, changes in done.items():
+        if found := same_work.difference(changes, done[workload.base]):
+            sys.exit(f"{workload.name}: {side} and {workload.base} differ in {found}")
+
+
 def mebibytes(size: float) -> str:
     return f"{size / (1 << 20):.1f} MiB"
 
@@ -133,6 +150,7 @@ def main() -> None:
         offices = Offices(options.attachment * GIBIBYTE // 1024, keep)
         for workload in chosen:
             print(f"{workload.name} ...", end=" ", file=sys.stderr, flush=True)
+            check_same_work(workload, offices, options)
             lines += measure(workload, offices, options)
             print(f"{lines[-1].ratio:.2f}", file=sys.stderr)
     results = ROOT / "build" / "results"

@@ -29,6 +29,7 @@ class Worker:
             stdin=subprocess.PIPE, stdout=subprocess.PIPE,
         )
         self.side = side
+        self.folder = folder
         if self._answer() != "ready":
             raise RuntimeError(f"{side} does not answer as a worker")
 

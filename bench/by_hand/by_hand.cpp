@@ -119,6 +119,9 @@ Workload by_hand_workload(const Order& order) {
     if (order.side.starts_with("cp")) {
         return copy_file(order);
     }
+    if (order.side == "by_hand_random_keys") {
+        use_random_keys();
+    }
     const auto database = std::make_shared<Database>(order.folder, order.full_sync);
     const std::string& name = order.workload;
     if (name == "create_activity") {

@@ -1,5 +1,6 @@
 """What the peers in Python share: the workers' protocol, places, keys and the log."""
 
+import random
 import re
 import sys
 import time
@@ -55,7 +56,10 @@ class Places:
 
 
 def new_key() -> str:
-    return str(uuid.uuid4()).upper()
+    """As the library makes them: later keys sort behind earlier ones."""
+    milliseconds, rest = divmod(time.time_ns(), 1_000_000)
+    ordered = milliseconds << 16 | 0x7000 | rest * 4096 // 1_000_000
+    return str(uuid.UUID(int=ordered << 64 | 2 << 62 | random.getrandbits(62))).upper()
 
 
 def human_key(prefix: str, number: int) -> str:

@@ -224,7 +224,8 @@ class Copier {
 
     void copy() {
         database_.transaction();
-        const int count = originals_.select(equals("Projekte_Dsn", qt(project_key(copied_project))));
+        const int count =
+            originals_.select(equals("Projekte_Dsn", qt(project_key(copied_project))));
         copies_.select("1=2");
         log_.empty_result(statement("no_copy"));
         const QString project = qt(new_key());
@@ -242,9 +243,7 @@ class Copier {
             for (int link = 0; link < links; ++link) {
                 links_.add(copied, features_.record(link).value("MKM_DSN").toString());
             }
-            if (attachments_.select(equals("uidLINK_DSN", original)) == 0) {
-                log_.empty_result(statement("attachments_to_copy"));
-            }
+            attachments_.select(equals("uidLINK_DSN", original));
             copy_details(original, copied);
         }
         copies_.save();

@@ -214,9 +214,7 @@ class Copier {
             for (const Row& feature : all(features_, original)) {
                 links_.add(copied, feature[3].toString());
             }
-            if (all(attachments_, original).isEmpty()) {
-                log_.empty_result(statement("attachments_to_copy"));
-            }
+            all(attachments_, original);
             copy_details(original, copied);
         }
         write(insert_activity_, activities);

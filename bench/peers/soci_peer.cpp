@@ -351,9 +351,7 @@ class Copier {
             copy[2].text = number_.take();
             copy[project_column()].text = project;
             copy_features(copy[0].text);
-            if (!attachments_.execute()) {
-                log_.empty_result(statement("attachments_to_copy"));
-            }
+            attachments_.execute();
             copy_details(copy[0].text);
         }
         write(insert_activity_, "AKT", originals_.row(), copies);

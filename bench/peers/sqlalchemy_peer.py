@@ -9,7 +9,8 @@ import sys
 from python_common import (COPIED_PROJECT, FEATURES, FOUND_FIELDS, STATEMENTS, TEXT_ORDER, USER, USER_FEATURES, Log,
                            Places, field_kind_key, human_key, new_key, project_key, serve,
                            standard_rights)
-from sqlalchemy import MetaData, Table, create_engine, event, text
+from sqlalchemy import DateTime, MetaData, Table, create_engine, event, text
+from sqlalchemy.dialects import sqlite
 from sqlalchemy.pool import StaticPool
 
 TEXTS = {name: text(statement) for name, statement in STATEMENTS.items()}
@@ -29,10 +30,17 @@ def connect(folder: str, full_sync: bool):
     return engine
 
 
+def leave_out_microseconds(_inspector, _table, column) -> None:
+    """The office's dates have no fraction of a second."""
+    if isinstance(column["type"], DateTime):
+        column["type"] = sqlite.DATETIME(truncate_microseconds=True)
+
+
 class Peer:
     def __init__(self, folder: str, full_sync: bool):
         self.engine = connect(folder, full_sync)
         tables = MetaData()
+        event.listen(tables, "column_reflect", leave_out_microseconds)
         self.activities = Table("AKT", tables, autoload_with=self.engine)
         self.details = Table("AKTDET", tables, autoload_with=self.engine)
         self.log = Log(folder)
@@ -123,7 +131,7 @@ class Peer:
     def _copy_what_hangs_on(self, connection, original: str, copied: str) -> None:
         for link in self._rows(connection, "features_to_copy", record=original):
             self._add_feature(connection, copied, link["MKM_DSN"])
-        self._expect_empty(connection, "attachments_to_copy", record=original)
+        self._rows(connection, "attachments_to_copy", record=original)
         details = self._rows(connection, "details_to_copy", record=original)
         self._expect_empty(connection, "no_detail")
         connection.execute(
