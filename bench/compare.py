@@ -120,7 +120,8 @@ def measure(workload: Workload, offices: Offices, options: argparse.Namespace) -
                 run(1)
             count = workload.runs or runs_for(runs[workload.base], options.seconds)
             on_disk = workload.full_sync
-            times = interleaved(runs, count, options.rounds, os.sync if on_disk else lambda: None)
+            times = interleaved(runs, count, min(options.rounds, workload.most_rounds),
+                                os.sync if on_disk else lambda: None)
             base = times[workload.base]
             others = {side: ratio(times[side], base) for side in workers
                       if side not in (own.side, workload.base)}

@@ -19,6 +19,7 @@ class Workload:
     shares_office: bool = False  # no side changes what another reads
     memory_aim: str = ""  # "", "allowed" by the worker, or "64 MiB"
     times: bool = True
+    most_rounds: int = 1000
     runs: int = 0  # of a round, where the office must not grow much; 0: as many as fill the time
 
 
@@ -46,10 +47,10 @@ WORKLOADS = [
              "cross_table", "addresses", aim=1.02, shares_office=True),
     Workload("attach", "add an attachment of {size} / cp",
              "add_attachment", "file", full_sync=True, base="cp", rivals=("cp_and_sync",),
-             shares_office=True, memory_aim="64 MiB"),
+             shares_office=True, memory_aim="64 MiB", most_rounds=5),
     Workload("read-attachment", "read an attachment of {size} back / cp",
              "read_attachment", "file", full_sync=True, base="cp", rivals=("cp_and_sync",),
-             shares_office=True, memory_aim="64 MiB"),
+             shares_office=True, memory_aim="64 MiB", most_rounds=5),
     Workload("large-result", "memory of a 100,000-row result / twice its values + 16 bytes a field",
              "large_result", "activities", shares_office=True, memory_aim="allowed", times=False),
     Workload("call", "call by name with conversions / virtual call",
