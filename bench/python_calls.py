@@ -4,6 +4,7 @@
 """
 
 import sys
+import time
 import timeit
 from pathlib import Path
 
@@ -27,7 +28,9 @@ def main() -> None:
     timer = timeit.Timer(CALLS[sys.argv[1], sys.argv[2]], globals=names)
     print("ready", flush=True)
     for line in sys.stdin:
-        print(round(timer.timeit(int(line.removeprefix("run "))) * 1e9), flush=True)
+        processor = time.process_time_ns()
+        wall = timer.timeit(int(line.removeprefix("run "))) * 1e9
+        print(round(wall), time.process_time_ns() - processor, flush=True)
 
 
 if __name__ == "__main__":
