@@ -12,6 +12,7 @@ import sys
 import tempfile
 from pathlib import Path
 
+import same_work
 from machine import machine
 from rounds import interleaved, ratio, runs_for
 from table import Line, print_table
@@ -28,6 +29,9 @@ def arguments() -> argparse.Namespace:
     parser.add_argument("--rounds", type=int, default=int(os.environ.get("REPETITIONS", "15")))
     parser.add_argument("--attachment", type=int, metavar="MIB", default=1024,
                         help="size of the attachments")
+    parser.add_argument("--processor", action="store_true",
+                        help="where nothing waits for the disk, processor time instead of the "
+                             "wall's clock: for a machine that others use too")
     options = parser.parse_args()
     if options.quick:
         options.rounds, options.attachment = 3, min(options.attachment, 64)
@@ -85,6 +89,22 @@ def start(workload: Workload, side: str, offices: Offices, keep: contextlib.Exit
     return worker
 
 
+def check_same_work(workload: Workload, offices: Offices, options: argparse.Namespace) -> None:
+    """One run of each side, and what it has written."""
+    if not workload.office or workload.shares_office:
+        return
+    before = same_work.Office(offices.get(workload.office, workload.full_sync))
+    done = {}
+    for side in sides_of(workload, options.peers):
+        with contextlib.ExitStack() as keep:
+            worker = start(workload, side, offices, keep)
+            worker.run(1)
+            done[side] = before.changes(worker.folder)
+    for side, changes in done.items():
+        if found := same_work.difference(changes, done[workload.base]):
+            sys.exit(f"{workload.name}: {side} and {workload.base} differ in {found}")
+
+
 def mebibytes(size: float) -> str:
     return f"{size / (1 << 20):.1f} MiB"
 
@@ -96,14 +116,17 @@ def measure(workload: Workload, offices: Offices, options: argparse.Namespace) -
         workers = {side: start(workload, side, offices, keep)
                    for side in sides_of(workload, options.peers)}
         own = next(iter(workers.values()))
+        for worker in workers.values():
+            worker.by_processor = options.processor and not workload.full_sync
         lines = []
         if workload.times:
             runs = {side: worker.run for side, worker in workers.items()}
             for run in runs.values():
                 run(1)
-            count = runs_for(runs[workload.base], options.seconds)
+            count = workload.runs or runs_for(runs[workload.base], options.seconds)
             on_disk = workload.full_sync
-            times = interleaved(runs, count, options.rounds, os.sync if on_disk else lambda: None)
+            times = interleaved(runs, count, min(options.rounds, workload.most_rounds),
+                                os.sync if on_disk else lambda: None)
             base = times[workload.base]
             others = {side: ratio(times[side], base) for side in workers
                       if side not in (own.side, workload.base)}
@@ -133,6 +156,7 @@ def main() -> None:
         offices = Offices(options.attachment * GIBIBYTE // 1024, keep)
         for workload in chosen:
             print(f"{workload.name} ...", end=" ", file=sys.stderr, flush=True)
+            check_same_work(workload, offices, options)
             lines += measure(workload, offices, options)
             print(f"{lines[-1].ratio:.2f}", file=sys.stderr)
     results = ROOT / "build" / "results"

@@ -29,6 +29,8 @@ class Worker:
             stdin=subprocess.PIPE, stdout=subprocess.PIPE,
         )
         self.side = side
+        self.folder = folder
+        self.by_processor = False
         if self._answer() != "ready":
             raise RuntimeError(f"{side} does not answer as a worker")
 
@@ -45,7 +47,8 @@ class Worker:
 
     def run(self, count: int) -> float:
         """Nanoseconds of one run, as the mean of so many."""
-        return int(self._ask(f"run {count}")) / count
+        wall, processor = self._ask(f"run {count}").split()
+        return int(processor if self.by_processor else wall) / count
 
     def memory(self) -> tuple[int, int]:
         """Bytes needed at most beyond the idle process, and bytes allowed (0: not known)."""

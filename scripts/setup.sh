@@ -9,18 +9,19 @@ say() {
     printf '\n== %s\n' "$*"
 }
 
+# The packages of these lists, files in scripts/, that are not installed.
 missing_packages() {
     local package
-    grep -v '^#' "$root/scripts/packages.txt" | while read -r package; do
+    (cd "$root/scripts" && cat "$@") | grep -v '^#' | while read -r package; do
         dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' ||
             printf '%s ' "$package"
     done
 }
 
-# Installs what is missing. Asks first when a person sits there.
+# Installs what is missing of packages.txt and of further lists. Asks first when a person sits there.
 ensure_packages() {
     local yes=$1 missing answer as_root=
-    missing=$(missing_packages)
+    missing=$(missing_packages packages.txt "${@:2}")
     if [ -z "$missing" ]; then
         return
     fi

@@ -80,7 +80,7 @@ Workload find_rows(const Connection& database) {
 
 Workload copy_project(const Connection& database, const std::string& folder) {
     const auto peer = std::make_shared<CopyByHand>(*database, folder);
-    return {.run = [database, peer] { peer->copy(project_key(1), new_key()); }};
+    return {.run = [database, peer] { peer->copy(project_key(copied_project), new_key()); }};
 }
 
 Workload cross_table(const Connection& database) {
@@ -118,6 +118,9 @@ Workload copy_file(const Order& order) {
 Workload by_hand_workload(const Order& order) {
     if (order.side.starts_with("cp")) {
         return copy_file(order);
+    }
+    if (order.side == "by_hand_random_keys") {
+        use_random_keys();
     }
     const auto database = std::make_shared<Database>(order.folder, order.full_sync);
     const std::string& name = order.workload;

@@ -64,11 +64,8 @@ void CopyByHand::copy_features(std::string_view record, std::string_view copy) {
     }
 }
 
-void CopyByHand::look_for_attachments(std::string_view record) {
-    if (rows(attachments_, record).empty()) {
-        log_.empty_result("SELECT * FROM Blob WHERE uidLINK_DSN='" + std::string(record) +
-                          "' ORDER BY rowid");
-    }
+void CopyByHand::read_attachments(std::string_view record) {
+    rows(attachments_, record);
 }
 
 void CopyByHand::copy_details(std::string_view record, std::string_view copy) {
@@ -98,7 +95,7 @@ void CopyByHand::copy(std::string_view project, std::string_view new_project) {
         row[code] = number_.take();
         row[project_column] = std::string(new_project);
         copy_features(original, copied);
-        look_for_attachments(original);
+        read_attachments(original);
         copy_details(original, copied);
     }
     write(insert_activity_, activities);

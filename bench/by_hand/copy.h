@@ -21,7 +21,7 @@ class CopyByHand {
 
     static std::vector<Row> rows(Query& query, std::string_view parameter);
     void copy_features(std::string_view record, std::string_view copy);
-    void look_for_attachments(std::string_view record);
+    void read_attachments(std::string_view record);
     void copy_details(std::string_view record, std::string_view copy);
     void write(Query& insert, const std::vector<Row>& rows);
 

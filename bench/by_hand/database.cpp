@@ -121,7 +121,7 @@ std::vector<std::string> Query::names() const {
 }
 
 Database::Database(const std::string& folder, bool full_sync)
-    : handle_(open(folder), &sqlite3_close) {
+    : handle_(open(folder), &sqlite3_close_v2) {
     standalone::sqlite::install_functions(handle());
     const std::string settings = std::string(
                                      "PRAGMA cache_size=-16000; PRAGMA temp_store=MEMORY; "

@@ -56,7 +56,7 @@ class Database {
     [[nodiscard]] Query query(std::string_view name) const;
 
   private:
-    std::unique_ptr<sqlite3, decltype(&sqlite3_close)> handle_;
+    std::unique_ptr<sqlite3, decltype(&sqlite3_close_v2)> handle_;
 };
 
 void check(int result, sqlite3* database);

@@ -4,10 +4,12 @@
 #include <unistd.h>
 
 #include <array>
+#include <chrono>
 #include <cstdio>
 #include <ctime>
 #include <fstream>
 #include <map>
+#include <random>
 #include <stdexcept>
 
 namespace cvdeveloper::bench {
@@ -30,6 +32,8 @@ std::map<std::string, std::string, std::less<>> read_statements() {
     return statements;
 }
 
+bool has_random_keys = false;
+
 }  // namespace
 
 const std::string& statement(std::string_view name) {
@@ -42,11 +46,28 @@ const std::string& statement(std::string_view name) {
 }
 
 std::string new_key() {
-    static unsigned number = 0;
+    static std::mt19937_64 numbers{std::random_device{}()};
+    using namespace std::chrono;
+    // 48 bits of milliseconds and 12 bits of their fraction.
+    const auto time = static_cast<std::uint64_t>(
+        duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count());
+    const std::uint64_t ordered =
+        (time / 1'000'000) << 16U | 0x7000U | (time % 1'000'000) * 4096 / 1'000'000;
+    const std::uint64_t first =
+        has_random_keys ? (numbers() & ~std::uint64_t{0xF000}) | 0x4000U : ordered;
+    const std::uint64_t second = numbers();
     std::array<char, 37> text{};
-    std::snprintf(text.data(), text.size(), "BE4C0000-0000-4000-8000-%06X%06X",
-                  static_cast<unsigned>(getpid()) & 0xFFFFFFU, ++number);
+    std::snprintf(text.data(), text.size(), "%08X-%04X-%04X-%04X-%012llX",
+                  static_cast<unsigned>(first >> 32U),
+                  static_cast<unsigned>(first >> 16U) & 0xFFFFU,
+                  static_cast<unsigned>(first) & 0xFFFFU,
+                  (static_cast<unsigned>(second >> 48U) & 0x3FFFU) | 0x8000U,
+                  static_cast<unsigned long long>(second & 0xFFFFFFFFFFFFU));
     return text.data();
+}
+
+void use_random_keys() {
+    has_random_keys = true;
 }
 
 std::string human_key(std::string_view prefix, std::int64_t number) {

@@ -11,7 +11,11 @@ namespace cvdeveloper::bench {
 // A statement of statements.sql by its name.
 const std::string& statement(std::string_view name);
 
+// A key as the library makes them: later keys sort behind earlier ones, so that rows made together
+// lie together in every index.
 std::string new_key();
+// From now on keys are random throughout, as most programs make them.
+void use_random_keys();
 
 // A human key as the host gives it: prefix and number, ten characters at least.
 std::string human_key(std::string_view prefix, std::int64_t number);

@@ -13,6 +13,7 @@ inline constexpr int features = 5;
 inline constexpr int rows_found = 1000;
 inline constexpr int addresses = 10000;
 inline constexpr int copied_activities = 200;
+inline constexpr int copied_project = 9001;
 
 inline std::string numbered(const char* form, int number) {
     std::array<char, 40> text{};

@@ -1,5 +1,6 @@
-#include <chrono>
-#include <cstdio>
+#include <time.h>
+
+#include <cstdint>
 #include <fstream>
 #include <iostream>
 #include <string>
@@ -10,7 +11,32 @@ namespace cvdeveloper::bench {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+// Nanoseconds by the wall's clock and of this process's own work.
+struct Times {
+    std::int64_t wall = 0;
+    std::int64_t processor = 0;
+
+    Times& operator+=(const Times& other) {
+        wall += other.wall;
+        processor += other.processor;
+        return *this;
+    }
+};
+
+std::int64_t read_clock(clockid_t clock) {
+    timespec time{};
+    clock_gettime(clock, &time);
+    return std::int64_t{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
+}
+
+template <class Action>
+Times timed(const Action& action) {
+    const std::int64_t processor = read_clock(CLOCK_PROCESS_CPUTIME_ID);
+    const std::int64_t wall = read_clock(CLOCK_MONOTONIC);
+    action();
+    return {.wall = read_clock(CLOCK_MONOTONIC) - wall,
+            .processor = read_clock(CLOCK_PROCESS_CPUTIME_ID) - processor};
+}
 
 // A line of /proc/self/status in bytes.
 std::size_t memory(const std::string& name) {
@@ -30,19 +56,17 @@ void forget_peak() {
     std::ofstream("/proc/self/clear_refs") << "5";
 }
 
-std::chrono::nanoseconds run(const Workload& workload, long count) {
+Times run(const Workload& workload, long count) {
     if (!workload.clean) {
-        const auto begin = Clock::now();
-        for (long i = 0; i < count; ++i) {
-            workload.run();
-        }
-        return Clock::now() - begin;
+        return timed([&] {
+            for (long i = 0; i < count; ++i) {
+                workload.run();
+            }
+        });
     }
-    std::chrono::nanoseconds total{0};
+    Times total;
     for (long i = 0; i < count; ++i) {
-        const auto begin = Clock::now();
-        workload.run();
-        total += Clock::now() - begin;
+        total += timed(workload.run);
         workload.clean();
     }
     return total;
@@ -58,7 +82,8 @@ void serve(const Workload& workload) {
         if (word == "run") {
             long count = 0;
             std::cin >> count;
-            std::cout << run(workload, count).count() << std::endl;
+            const Times times = run(workload, count);
+            std::cout << times.wall << ' ' << times.processor << std::endl;
         } else if (word == "memory") {
             const std::size_t peak = memory("VmHWM:");
             std::cout << (peak > idle ? peak - idle : 0) << ' '

@@ -23,9 +23,9 @@ struct Order {
     bool full_sync = true;
 };
 
-// Obeys standard input: "run N" answers with the nanoseconds that N runs took, "memory" with the
-// bytes that the process has needed at most beyond what it needed when it was ready, and with what
-// it may need.
+// Obeys standard input: "run N" answers with the nanoseconds that N runs took, by the wall's clock
+// and of the processor, "memory" with the bytes that the process has needed at most beyond what it
+// needed when it was ready, and with what it may need.
 void serve(const Workload& workload);
 
 // Where the compiler must believe that a value is used.

@@ -61,7 +61,7 @@ Workload find_rows(const App& app) {
 Workload copy_project(const App& app) {
     return {.run = [app] {
         const RecordSet originals =
-            app->AKT_Find("Projekte_Dsn='" + project_key(1) + "'", "Kennung");
+            app->AKT_Find("Projekte_Dsn='" + project_key(copied_project) + "'", "Kennung");
         RecordSet copies = app->AKT_Copy(originals, "", new_key());
         app->AKT_Update(copies);
     }};

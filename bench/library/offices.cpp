@@ -124,7 +124,7 @@ void make_office(std::string_view name, const std::string& folder, bool full_syn
         run_script(folder, insert_activities(activities, rows_found, 0) +
                                insert_details("AKT", "A0000000", activities, field_kinds));
     } else if (name == "project") {
-        run_script(folder, insert_activities(copied_activities, copied_activities, 1) +
+        run_script(folder, insert_activities(copied_activities, copied_activities, copied_project) +
                                insert_features(copied_activities) +
                                insert_details("AKT", "A0000000", copied_activities, 5));
     } else if (name == "addresses") {
