@@ -11,6 +11,7 @@
 #include "platform/clock.h"
 #include "support/expect_error.h"
 #include "support/standalone_application.h"
+#include "support/temp_setting.h"
 
 namespace cvdeveloper {
 namespace {
@@ -169,13 +170,13 @@ TEST_F(CopyTemplateTest, FeaturesDetailsAndLinksComeAlong) {
 
 class CopyAttachmentsTest : public CopyTest {
   protected:
-    CopyAttachmentsTest() { setenv("TMPDIR", folder.path().c_str(), 1); }
-    ~CopyAttachmentsTest() override { unsetenv("TMPDIR"); }
-
     std::string write(const std::string& name, const std::string& content) const {
-        std::ofstream(folder.path(name), std::ios::binary) << content;
+        std::ofstream(paths::to_system(folder.path(name)), std::ios::binary) << content;
         return folder.path(name);
     }
+
+  private:
+    const TempSetting setting_{folder.path().c_str()};
 };
 
 TEST_F(CopyAttachmentsTest, StoredContentIsCopiedAndOutlivesItsOriginal) {

@@ -102,12 +102,12 @@ TEST_F(FileSystem, AFileOpensForWritingAnewAndForAppending) {
 }
 
 TEST_F(FileSystem, CreateFolderGivesTheFolderWithThePathAsComposed) {
-    const std::string path = folder.path().string() + "\\neu";
+    const std::string path = folder.text() + "\\neu";
     const Ref<Folder> made = files->CreateFolder(path + "\\");
     EXPECT_TRUE(folder.has("neu"));
     EXPECT_EQ(made->Path(), path);
     EXPECT_EQ(made->Name(), "neu");
-    EXPECT_EQ(made->ParentFolder()->Path(), folder.path().string());
+    EXPECT_EQ(made->ParentFolder()->Path(), folder.text());
     EXPECT_NEAR(made->DateCreated().days, now().days, 1.0 / 1440);
     EXPECT_NEAR(made->DateLastModified().days, now().days, 1.0 / 1440);
     expect_error_number(58, [&] { files->CreateFolder(path); });
@@ -118,7 +118,7 @@ TEST_F(FileSystem, AFolderShowsItsFilesAndFolders) {
     folder.write("a.txt", "123");
     folder.write("b.txt", "4567");
     folder.write("deep/c.txt", "8");
-    const Ref<Folder> top = make_object<Folder>(folder.path().string());
+    const Ref<Folder> top = make_object<Folder>(folder.text());
     EXPECT_EQ(top->Size(), 8);
     EXPECT_EQ(top->Files()->Count(), 2);
     EXPECT_EQ(top->SubFolders()->Count(), 1);
@@ -127,7 +127,7 @@ TEST_F(FileSystem, AFolderShowsItsFilesAndFolders) {
     EXPECT_EQ(file->Name(), "b.txt");
     EXPECT_EQ(file->Path(), folder.file("b.txt"));
     EXPECT_EQ(file->Size(), 4);
-    EXPECT_EQ(file->ParentFolder()->Path(), folder.path().string());
+    EXPECT_EQ(file->ParentFolder()->Path(), folder.text());
     std::set<std::string> names;
     for (std::int32_t i = 1; i <= 2; ++i) {
         names.insert(top->Files()->Item(i)->Name());
@@ -149,9 +149,9 @@ TEST_F(FileSystem, ARootHasNoParent) {
 TEST_F(FileSystem, ExistenceTellsFilesFromFolders) {
     folder.write("a.txt", "");
     EXPECT_TRUE(files->FileExists(folder.file("a.txt")));
-    EXPECT_FALSE(files->FileExists(folder.path().string()));
+    EXPECT_FALSE(files->FileExists(folder.text()));
     EXPECT_FALSE(files->FileExists(folder.file("*.txt")));
-    EXPECT_TRUE(files->FolderExists(folder.path().string()));
+    EXPECT_TRUE(files->FolderExists(folder.text()));
     EXPECT_FALSE(files->FolderExists(folder.file("a.txt")));
     EXPECT_FALSE(files->FolderExists(""));
 }
