@@ -190,11 +190,6 @@ TEST(Files, PartsOfAPathThatAreFilesAreError76) {
     expect_error_number(70, [&] { OutputFile(folder.text(), OutputFile::Mode::Append); });
 }
 
-TEST(Files, NamesThatAreTooLongAreError52) {
-    const TemporaryFolder folder;
-    expect_error_number(52, [&] { create_folder(folder.file(std::string(300, 'x'))); });
-}
-
 TEST(Files, AppendedLinesEndWithCrLfAndMakeTheFile) {
     const TemporaryFolder folder;
     EXPECT_TRUE(append_line(folder.text() + "\\log.txt", "a"));

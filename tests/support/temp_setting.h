@@ -22,7 +22,9 @@ class TempSetting {
   private:
 #ifdef _WIN32
     static constexpr const char* variable = "TMP";
-    static void set(const char* value) { _putenv_s(variable, value == nullptr ? "" : value); }
+    static void set(const char* value) {
+        _putenv_s(variable, value == nullptr ? "" : value);
+    }
 #else
     static constexpr const char* variable = "TMPDIR";
     static void set(const char* value) {

@@ -1,8 +1,11 @@
 #include "platform/regional.h"
 
+#include <array>
 #include <cmath>
 
 #include "cvdeveloper/automation/runtime_errors.h"
+#include "platform/decimal.h"
+#include "platform/text.h"
 #include "platform/windows/bstr.h"
 #include "platform/windows/currency.h"
 
@@ -38,10 +41,13 @@ std::string formatted(Formatter& formatter, double number, const NumberFormat& f
 
 }  // namespace
 
+// The runtime's rule is the same everywhere; only the decimal sign is the user's.
 std::string number_text(double number) {
-    BSTR text = nullptr;
-    check(VarBstrFromR8(number, LOCALE_USER_DEFAULT, 0, &text));
-    return take_text(text);
+    std::array<wchar_t, 8> decimal_sign{};
+    GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_SDECIMAL, decimal_sign.data(),
+                    static_cast<int>(decimal_sign.size()));
+    return replace_all(decimal_text(number, '.', LeadingZero::Written), ".",
+                       to_utf8(decimal_sign.data()));
 }
 
 std::string general_date(Date date) {

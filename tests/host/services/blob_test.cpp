@@ -161,7 +161,7 @@ TEST_F(BlobTest, FolderIsNoFile) {
 
 TEST_F(BlobTest, FileThatIsGoneAtTheSecondCallLeavesTheFirstAsItWas) {
     const std::string key = add("a.txt", "eins");
-    std::filesystem::remove(folder.path("a.txt"));
+    files::remove_file(folder.path("a.txt"));
     expect_error(53, "a.txt", [&] {
         blob().SaveBlobFile(folder.path("a.txt"), "OWNER", content_kind, key, true);
     });
@@ -197,7 +197,7 @@ TEST_F(BlobTest, DeletingTakesRowAndFileAndNeedsTheKeyAlone) {
     EXPECT_EQ(opened(other), "zwei");
     const std::string link = blob().SaveBlobFile(folder.path("a.txt"), "OWNER", link_kind);
     blob().DeleteBlobFile(link, "", content_kind, "");
-    EXPECT_TRUE(std::filesystem::exists(folder.path("a.txt")));
+    EXPECT_TRUE(files::file_exists(folder.path("a.txt")));
     expect_consistent();
 }
 
@@ -271,12 +271,12 @@ TEST_F(BlobTest, LogOnRemovesWhatBrokenOffSessionsLeftAndNothingElse) {
     for (const std::string name :
          {"00000000-0000-4000-8000-00000000000A", "00000000-0000-4000-8000-00000000000B.neu",
           "Notizen des Chefs.txt"}) {
-        std::ofstream(folder_path + name) << "halb";
+        std::ofstream(paths::to_system(folder_path + name)) << "halb";
     }
     connector = log_on();
     EXPECT_EQ(opened(key), "eins");
     EXPECT_EQ(stored().size(), 2U);
-    EXPECT_TRUE(std::filesystem::exists(folder_path + "Notizen des Chefs.txt"));
+    EXPECT_TRUE(files::file_exists(folder_path + "Notizen des Chefs.txt"));
 }
 
 TEST_F(BlobTest, LogOnLeavesFilesAloneWhoseRowsAreNotYetCommitted) {
@@ -290,20 +290,20 @@ TEST_F(BlobTest, LogOnLeavesFilesAloneWhoseRowsAreNotYetCommitted) {
 }
 
 TEST_F(BlobTest, HostFolderWithoutAttachmentFolderGetsOne) {
-    std::filesystem::remove(host_path() + "/Anlagen");
+    files::remove_folder(host_path() + "/Anlagen");
     connector = log_on();
     EXPECT_EQ(opened(add("a.txt", "eins")), "eins");
 }
 
 TEST_F(BlobTest, LostContentIsNamedByItsKey) {
     const std::string key = add("a.txt", "eins");
-    std::filesystem::remove(host_path() + "/Anlagen/" + *stored().begin());
+    files::remove_file(host_path() + "/Anlagen/" + *stored().begin());
     expect_error(53, key, [&] { opened(key); });
 }
 
 TEST_F(BlobTest, ShortenedContentIsNotHandedOut) {
     const std::string key = add("a.txt", "eins");
-    std::ofstream(host_path() + "/Anlagen/" + *stored().begin()) << "ei";
+    std::ofstream(paths::to_system(host_path() + "/Anlagen/" + *stored().begin())) << "ei";
     expect_error(static_cast<std::int32_t>(HostError::Database), key, [&] { opened(key); });
 }
 

@@ -40,6 +40,11 @@ TEST(Files, LinksAreCopiedAsLinksAndDeletedWithoutWhatTheyLeadTo) {
     EXPECT_EQ(folder.read("outside/y"), "2");
 }
 
+TEST(Files, NamesThatAreTooLongAreError52) {
+    const TemporaryFolder folder;
+    expect_error_number(52, [&] { create_folder(folder.file(std::string(300, 'x'))); });
+}
+
 TEST(Files, AFullDiskIsError61) {
     expect_error(61, "", "Datenträger voll (/dev/full)",
                  [] { OutputFile("/dev/full", OutputFile::Mode::Append).write("x"); });

@@ -18,7 +18,8 @@ TEST_F(NumberingByProcesses, NeverGivesANumberTwice) {
                 RecordSet rs = child->GetRecordset("SELECT * FROM AKT WHERE 1=2", {});
                 rs.add_new();
                 rs.set("DSN", std::to_string(i) + "-" + std::to_string(record));
-                rs.set("Kennung", child->GetRecordset("SELECT Kennung_AKT FROM Std", {}).value_at(0));
+                rs.set("Kennung",
+                       child->GetRecordset("SELECT Kennung_AKT FROM Std", {}).value_at(0));
                 child->UpdateRecordset(rs, {});
             }
             _exit(0);
