@@ -64,7 +64,9 @@ TEST(Regional, NumberTextReadsBackAsTheNumber) {
         const std::string plain =
             std::to_string(digits(random)) + "e" + std::to_string(exponent(random));
         const double number = std::stod(plain);
-        ASSERT_EQ(parse_number(number_text(number)), number) << plain;
+        const std::optional<double> read = parse_number(number_text(number));
+        ASSERT_TRUE(read) << plain;
+        ASSERT_DOUBLE_EQ(*read, number) << plain;
     }
 }
 
@@ -96,12 +98,33 @@ TEST(Regional, NumbersAreFormattedTheGermanWay) {
     EXPECT_EQ(format_percent(-2, {.decimals = 0}), "-200%");
 }
 
+TEST(Regional, MidpointsOfTheShortestTextAreRoundedAwayFromZero) {
+    EXPECT_EQ(format_number(2.345, {}), "2,35");
+    EXPECT_EQ(format_number(-2.345, {}), "-2,35");
+    EXPECT_EQ(format_number(1.005, {}), "1,01");
+    EXPECT_EQ(format_number(0.5, {.decimals = 0}), "1");
+    EXPECT_EQ(format_number(2.5, {.decimals = 0}), "3");
+    EXPECT_EQ(format_number(0.05, {.decimals = 1}), "0,1");
+    EXPECT_EQ(format_number(0.049, {.decimals = 1}), "0,0");
+    EXPECT_EQ(format_number(999.995, {}), "1.000,00");
+    EXPECT_EQ(format_number(9.9999, {.decimals = 3}), "10,000");
+    EXPECT_EQ(format_percent(0.00555, {}), "0,56%");
+}
+
+TEST(Regional, WhatRoundsToZeroHasNoSign) {
+    EXPECT_EQ(format_number(-0.001, {}), "0,00");
+    EXPECT_EQ(format_number(-0.001, {.parentheses = -1}), "0,00");
+}
+
 TEST(Regional, FormattingFollowsItsOptions) {
     EXPECT_EQ(format_number(0.5, {.leading_digit = 0}), ",50");
     EXPECT_EQ(format_number(-0.5, {.leading_digit = 0}), "-,50");
     EXPECT_EQ(format_number(-1234.5, {.parentheses = -1}), "(1.234,50)");
     EXPECT_EQ(format_currency(-1234.5, {.parentheses = -1}), "(1.234,50 €)");
     EXPECT_EQ(format_number(1234567.891, {.decimals = 4, .grouping = 0}), "1234567,8910");
+    EXPECT_EQ(format_number(-0.1, {.decimals = 12}), "-0,100000000000");
+    EXPECT_EQ(format_currency(1234.123456789012, {.decimals = 12}), "1.234,123456789012 €");
+    EXPECT_EQ(format_percent(-2, {.decimals = 0, .parentheses = -1}), "(200%)");
 }
 
 TEST(Regional, DatesAreFormattedTheGermanWay) {
