@@ -79,8 +79,7 @@ TEST_F(AttachmentsTest, SaveAsAsksForOtherKindsByTheirKind) {
     folder.write("temp1", "Inhalt");
     host.set_opened_file(folder.file("temp1"));
     const RecordSet rs = host.record_set(row(blob("B1", BLOBTYPE_WORD, "expose.doc")));
-    EXPECT_EQ(attachments.BLOB_SaveAs(rs, target.text(), "neu.doc"),
-              target.file("neu.doc"));
+    EXPECT_EQ(attachments.BLOB_SaveAs(rs, target.text(), "neu.doc"), target.file("neu.doc"));
     EXPECT_EQ(host.log(), Lines{"OpenBlobFile B1, K1, 1"});
 }
 

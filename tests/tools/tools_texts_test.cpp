@@ -193,8 +193,7 @@ TEST_F(ToolsTexts, DirGivesTheNamesThatFitOneByOne) {
     EXPECT_EQ(all_names(*tools, folder.file("*.txt"), 16), (Names{"a.txt", "b.TXT", "deep.txt"}));
     EXPECT_EQ(all_names(*tools, folder.file("*"), 16),
               (Names{".", "..", "a.txt", "b.TXT", "c.doc", "deep.txt"}));
-    EXPECT_EQ(all_names(*tools, folder.text() + "/", 0),
-              (Names{"a.txt", "b.TXT", "c.doc"}));
+    EXPECT_EQ(all_names(*tools, folder.text() + "/", 0), (Names{"a.txt", "b.TXT", "c.doc"}));
     EXPECT_EQ(all_names(*tools, folder.file("*.*"), 0), (Names{"a.txt", "b.TXT", "c.doc"}));
 }
 
