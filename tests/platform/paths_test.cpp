@@ -27,6 +27,7 @@ TEST(Paths, SeparatorsAtTheEndGoButARootStays) {
     EXPECT_EQ(paths::without_end_separators("/srv/x//"), "/srv/x");
     EXPECT_EQ(paths::without_end_separators("C:\\x\\"), "C:\\x");
     EXPECT_EQ(paths::without_end_separators("/"), "/");
+    EXPECT_EQ(paths::without_end_separators("C:\\"), "C:\\");
 }
 
 TEST(Wildcards, NamesMatchWithoutRegardToCase) {
