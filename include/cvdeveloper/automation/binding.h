@@ -234,13 +234,12 @@ struct Member {
             },
             std::index_sequence_for<A...>{});
     }
-    static constexpr Binding row{
-        .call = &call,
-        .parameter_types = Signature<R, A...>::types,
-        .result = Result<R>::type,
-        .writes = Signature<R, A...>::writes,
-        .by_reference = by_reference,
-        .native = native_side<Function, by_reference, T, R, A...>()};
+    static constexpr Binding row{.call = &call,
+                                 .parameter_types = Signature<R, A...>::types,
+                                 .result = Result<R>::type,
+                                 .writes = Signature<R, A...>::writes,
+                                 .by_reference = by_reference,
+                                 .native = native_side<Function, by_reference, T, R, A...>()};
 };
 
 template <auto Function, class F, const auto&... parameters>

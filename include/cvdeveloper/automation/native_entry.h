@@ -11,8 +11,9 @@
 #include "cvdeveloper/automation/library_object.h"
 #include "cvdeveloper/automation/signature.h"
 
-// Windows only: a vtable's entry for a C++ function, made from its signature as bind<F> is. Arguments
-// and result travel in the system's own representations; what goes wrong is the entry's status.
+// Windows only: a vtable's entry for a C++ function, made from its signature as bind<F> is.
+// Arguments and result travel in the system's own representations; what goes wrong is the entry's
+// status.
 //
 // The system's headers rename members of ours (CopyFile, DeleteFile) by macros, so its types are
 // described here by their layout; bindings/com holds the two descriptions together and defines what
@@ -193,15 +194,6 @@ struct ValueArgument : NativeArgument<T> {
 template <class T, bool by_reference>
 using ArgumentFor = std::conditional_t<by_reference, ReferenceArgument<T>, ValueArgument<T>>;
 
-template <class Abi>
-constexpr bool is_null(Abi abi) noexcept {
-    if constexpr (std::is_pointer_v<Abi>) {
-        return abi == nullptr;
-    } else {
-        return false;
-    }
-}
-
 template <class R>
 struct NativeResult;
 template <class R, class AbiType = R>
@@ -217,7 +209,8 @@ template <>
 struct NativeResult<double> : PlainResult<double> {};
 template <class E>
 requires std::is_enum_v<E>
-struct NativeResult<E> : PlainResult<E, std::int32_t> {};
+struct NativeResult<E> : PlainResult<E, std::int32_t> {
+};
 template <>
 struct NativeResult<bool> {
     using Abi = Boolean;
@@ -249,85 +242,106 @@ struct NativeResult<Ref<T>> {
     static void store(const Ref<T>& value, Abi& target) { target = object_out(value); }
 };
 
-// The entry itself. Invoke is a stateless caller: Invoke::run(Object&, arguments...).
+// Where a by-reference argument has no address.
+template <bool by_reference, class Abi>
+constexpr bool is_missing(Abi given) noexcept {
+    if constexpr (by_reference) {
+        return given == nullptr;
+    } else {
+        return false;
+    }
+}
+
+// What an entry does: run calls the function through an Invoke, perform is the part that entries of
+// several functions of one signature share.
 template <class Invoke, std::uint32_t by_reference, class Places, class R, class... A>
 struct Entry;
 
 template <class Invoke, std::uint32_t by_reference, std::size_t... I, class R, class... A>
 struct Entry<Invoke, by_reference, std::index_sequence<I...>, R, A...> {
+    static constexpr bool is_by_reference(std::size_t place) {
+        return ((by_reference >> place) & 1U) != 0;
+    }
     template <std::size_t Place, class T>
-    using ArgumentAt = ArgumentFor<T, ((by_reference >> Place) & 1U) != 0>;
+    using ArgumentAt = ArgumentFor<T, is_by_reference(Place)>;
+    using Result = NativeResult<R>;
 
-    static Status __stdcall run(const Head* self, typename ArgumentAt<I, A>::Abi... given,
-                                typename NativeResult<R>::Abi* result) {
-        if (result == nullptr || (false || ... || missing<I>(given))) {
+    static Status perform(const Invoke& invoke, const Call& call,
+                          typename ArgumentAt<I, A>::Abi... given, typename Result::Abi* result) {
+        if (result == nullptr || (false || ... || is_missing<is_by_reference(I)>(given))) {
             return null_pointer;
         }
         try {
-            std::tuple<ArgumentAt<I, A>...> arguments{
-                ArgumentAt<I, A>(given, Call{self, entry()}, I)...};
-            const GuardLock lock(self->guard);
-            typename NativeResult<R>::Abi made{};
-            NativeResult<R>::store(Invoke::run(*self->object, std::get<I>(arguments).get()...),
-                                   made);
+            std::tuple<ArgumentAt<I, A>...> arguments{ArgumentAt<I, A>(given, call, I)...};
+            const GuardLock lock(call.self->guard);
+            typename Result::Abi made{};
+            Result::store(invoke(*call.self->object, std::get<I>(arguments).get()...), made);
             (std::get<I>(arguments).store(), ...);
             *result = made;
             return done;
         } catch (...) {
-            return status_of_exception(self);
+            return status_of_exception(call.self);
         }
     }
-
-    static NativeEntry entry() noexcept { return reinterpret_cast<NativeEntry>(&run); }
-
-    template <std::size_t Place, class Abi>
-    static constexpr bool missing(Abi given) noexcept {
-        return ((by_reference >> Place) & 1U) != 0 && is_null(given);
+    template <auto make_invoke>
+    static Status __stdcall run(const Head* self, typename ArgumentAt<I, A>::Abi... given,
+                                typename Result::Abi* result) {
+        return perform(make_invoke(), Call{self, entry<make_invoke>()}, given..., result);
+    }
+    template <auto make_invoke>
+    static NativeEntry entry() noexcept {
+        return reinterpret_cast<NativeEntry>(&run<make_invoke>);
     }
 };
 
 template <class Invoke, std::uint32_t by_reference, std::size_t... I, class... A>
 struct Entry<Invoke, by_reference, std::index_sequence<I...>, void, A...> {
+    static constexpr bool is_by_reference(std::size_t place) {
+        return ((by_reference >> place) & 1U) != 0;
+    }
     template <std::size_t Place, class T>
-    using ArgumentAt = ArgumentFor<T, ((by_reference >> Place) & 1U) != 0>;
+    using ArgumentAt = ArgumentFor<T, is_by_reference(Place)>;
 
-    static Status __stdcall run(const Head* self, typename ArgumentAt<I, A>::Abi... given) {
-        if ((false || ... || missing<I>(given))) {
+    static Status perform(const Invoke& invoke, const Call& call,
+                          typename ArgumentAt<I, A>::Abi... given) {
+        if ((false || ... || is_missing<is_by_reference(I)>(given))) {
             return null_pointer;
         }
         try {
-            std::tuple<ArgumentAt<I, A>...> arguments{
-                ArgumentAt<I, A>(given, Call{self, entry()}, I)...};
-            const GuardLock lock(self->guard);
-            Invoke::run(*self->object, std::get<I>(arguments).get()...);
+            std::tuple<ArgumentAt<I, A>...> arguments{ArgumentAt<I, A>(given, call, I)...};
+            const GuardLock lock(call.self->guard);
+            invoke(*call.self->object, std::get<I>(arguments).get()...);
             (std::get<I>(arguments).store(), ...);
             return done;
         } catch (...) {
-            return status_of_exception(self);
+            return status_of_exception(call.self);
         }
     }
-
-    static NativeEntry entry() noexcept { return reinterpret_cast<NativeEntry>(&run); }
-
-    template <std::size_t Place, class Abi>
-    static constexpr bool missing(Abi given) noexcept {
-        return ((by_reference >> Place) & 1U) != 0 && is_null(given);
+    template <auto make_invoke>
+    static Status __stdcall run(const Head* self, typename ArgumentAt<I, A>::Abi... given) {
+        return perform(make_invoke(), Call{self, entry<make_invoke>()}, given...);
+    }
+    template <auto make_invoke>
+    static NativeEntry entry() noexcept {
+        return reinterpret_cast<NativeEntry>(&run<make_invoke>);
     }
 };
 
 template <auto Function, class T, class R, class... A>
 struct InvokeMember {
-    static R run(Object& self, A... arguments) {
+    R operator()(Object& self, A... arguments) const {
         decltype(auto) object = binding::target<T>(self);
         return (object.*Function)(std::forward<A>(arguments)...);
     }
+    static InvokeMember make() noexcept { return {}; }
 };
 
 // The entry of a bound member function, as a row's binding gives it.
 template <auto Function, std::uint32_t by_reference, class T, class R, class... A>
 NativeEntry native_entry(const Operation&) noexcept {
-    return Entry<InvokeMember<Function, T, R, A...>, by_reference, std::index_sequence_for<A...>,
-                 R, A...>::entry();
+    using Invoke = InvokeMember<Function, T, R, A...>;
+    return Entry<Invoke, by_reference, std::index_sequence_for<A...>, R,
+                 A...>::template entry<&Invoke::make>();
 }
 
 }  // namespace cvdeveloper::native

@@ -10,25 +10,30 @@
 namespace cvdeveloper::families {
 
 #ifdef _WIN32
-// A vtable's entry knows no row: each family has its own.
-template <auto Function, std::int32_t id, class R, class... A>
-struct InvokeKindFor {
-    static R run(Object& self, A... arguments) {
-        return Function(session_of(self), family_of(id), std::forward<A>(arguments)...);
+// A vtable's entry knows no row: each family has its own, and all of a kind share what they do.
+template <auto Function, class R, class... A>
+struct InvokeKind {
+    const Family* family;
+    R operator()(Object& self, A... arguments) const {
+        return Function(session_of(self), *family, std::forward<A>(arguments)...);
+    }
+    template <std::int32_t id>
+    static InvokeKind make() noexcept {
+        return {&family_of(id)};
     }
 };
 
 template <auto Function, class R, class... A>
 NativeEntry native_kind_entry(const Operation& operation) noexcept {
+    using Invoke = InvokeKind<Function, R, A...>;
+    using Entry = native::Entry<Invoke, binding::changed_arguments<A...>,
+                                std::index_sequence_for<A...>, R, A...>;
     return [&]<std::size_t... F>(std::index_sequence<F...>) {
-        constexpr NativeEntry (*entries[])() = {
-            &native::Entry<
-                InvokeKindFor<Function, first_block + static_cast<std::int32_t>(F) * block_size, R,
-                              A...>,
-                binding::changed_arguments<A...>, std::index_sequence_for<A...>, R,
-                A...>::entry...};
+        constexpr NativeEntry (*entries[])() = {&Entry::template entry<
+            &Invoke::template make<first_block + static_cast<std::int32_t>(F) * block_size>>...};
         return entries[static_cast<std::size_t>((operation.id - first_block) / block_size)]();
-    }(std::make_index_sequence<family_count>{});
+    }
+    (std::make_index_sequence<family_count>{});
 }
 #endif
 
