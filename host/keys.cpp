@@ -31,14 +31,17 @@ std::string new_key() {
 }
 
 std::string literal(std::string_view text) {
-    std::string quoted = "'";
-    for (const char c : text) {
-        quoted += c;
-        if (c == '\'') {
-            quoted += c;
+    std::string quoted;
+    quoted.reserve(text.size() + 2);
+    quoted += '\'';
+    for (;;) {
+        const std::size_t quote = text.find('\'');
+        if (quote == std::string_view::npos) {
+            return quoted.append(text) += '\'';
         }
+        quoted.append(text.substr(0, quote + 1)) += '\'';
+        text.remove_prefix(quote + 1);
     }
-    return quoted += '\'';
 }
 
 }  // namespace cvdeveloper::standalone

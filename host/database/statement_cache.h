@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 #include "host/database/database.h"
 
@@ -16,6 +17,10 @@ struct CacheStatistics {
     std::uint64_t hits = 0;
     std::uint64_t misses = 0;
     std::uint64_t evictions = 0;
+
+    friend CacheStatistics operator+(const CacheStatistics& one, const CacheStatistics& other) {
+        return {one.hits + other.hits, one.misses + other.misses, one.evictions + other.evictions};
+    }
 };
 
 // Prepared statements by their text, with whatever the caller keeps beside one; the least recently
@@ -30,16 +35,21 @@ class StatementCache {
 
     explicit StatementCache(std::size_t capacity) : capacity_(capacity) {}
 
-    // The entry for a text; make() gives one that is not there yet. Valid until the next call.
-    template <class Make>
-    Entry& get(std::string_view text, const Make& make) {
-        if (const auto found = by_text_.find(text); found != by_text_.end()) {
-            ++statistics_.hits;
-            entries_.splice(entries_.begin(), entries_, found->second);
-            return found->second->entry;
+    // The entry for a text, or nullptr. Entries are valid until the next one is added.
+    Entry* find(std::string_view text) {
+        const auto found = by_text_.find(text);
+        if (found == by_text_.end()) {
+            return nullptr;
         }
+        ++statistics_.hits;
+        entries_.splice(entries_.begin(), entries_, found->second);
+        return &found->second->entry;
+    }
+
+    // For a text that has no entry yet.
+    Entry& add(std::string_view text, Entry entry) {
         ++statistics_.misses;
-        entries_.push_front(Node{std::string(text), make()});
+        entries_.push_front(Node{std::string(text), std::move(entry)});
         by_text_.emplace(entries_.front().text, entries_.begin());
         if (entries_.size() > capacity_) {
             ++statistics_.evictions;
@@ -47,6 +57,13 @@ class StatementCache {
             entries_.pop_back();
         }
         return entries_.front().entry;
+    }
+
+    // The entry for a text; make() gives one that is not there yet.
+    template <class Make>
+    Entry& get(std::string_view text, const Make& make) {
+        Entry* const found = find(text);
+        return found != nullptr ? *found : add(text, make());
     }
 
     [[nodiscard]] const CacheStatistics& statistics() const noexcept { return statistics_; }

@@ -10,6 +10,9 @@
 #include "host/folder/load_rows.h"
 #include "host/folder/schema_folder.h"
 #include "host/session/users.h"
+#include "platform/code_page.h"
+#include "platform/files.h"
+#include "platform/paths.h"
 
 namespace cvdeveloper::standalone {
 
@@ -56,13 +59,13 @@ void make_folder(const fs::path& folder, Undo& undo) {
     if (fs::create_directory(folder)) {
         undo.remember(folder);
     }
-    fs::permissions(folder, fs::perms::owner_all);
+    files::restrict_to_owner(paths::to_text(folder));
 }
 
 void fill_database(const fs::path& file, const CreateOptions& options) {
     // Syncing each step would only slow this down: the file gets its name when it is complete.
-    sqlite::Connection database(file.string(), {.create = true, .full_sync = false});
-    fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
+    sqlite::Connection database(paths::to_text(file), {.create = true, .full_sync = false});
+    files::restrict_to_owner(paths::to_text(file));
     const fs::path schema = schema_folder();
     database.begin();
     database.run_script(read_schema_file(schema / "schema.sql"));
@@ -79,7 +82,7 @@ void fill_database(const fs::path& file, const CreateOptions& options) {
 }
 
 void make_all(std::string_view path, const CreateOptions& options) {
-    const fs::path folder = disk_path(path);
+    const fs::path folder = paths::to_system(path);
     if (fs::exists(folder / "corvanta.db") || fs::exists(folder / "corvanta.ini")) {
         raise(HostError::Folder,
               "Der Ordner '" + std::string(path) + "' enthält schon eine Datenbank.");
@@ -102,7 +105,7 @@ void make_all(std::string_view path, const CreateOptions& options) {
         raise(HostError::Folder, "Im Ordner '" + std::string(path) +
                                      "' kann die Datei corvanta.ini nicht geschrieben werden.");
     }
-    fs::permissions(ini, fs::perms::owner_read | fs::perms::owner_write);
+    files::restrict_to_owner(paths::to_text(ini));
     fs::rename(unfinished, folder / "corvanta.db");
     undo.keep();
 }
@@ -113,9 +116,9 @@ void create_folder(std::string_view path, const CreateOptions& options) {
     try {
         make_all(path, options);
     } catch (const fs::filesystem_error& error) {
-        raise(HostError::Folder, "Der Ordner '" + std::string(path) +
-                                     "' kann nicht angelegt werden: " + error.code().message() +
-                                     ".");
+        raise(HostError::Folder,
+              "Der Ordner '" + std::string(path) +
+                  "' kann nicht angelegt werden: " + from_code_page(error.code().message()) + ".");
     }
 }
 

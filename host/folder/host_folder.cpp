@@ -8,6 +8,7 @@
 #include "host/database/sqlite/connection.h"
 #include "host/errors.h"
 #include "host/folder/ini_file.h"
+#include "platform/paths.h"
 #include "platform/text.h"
 
 namespace cvdeveloper::standalone {
@@ -42,13 +43,8 @@ Settings read_settings(std::string_view text) {
 
 }  // namespace
 
-std::filesystem::path disk_path(std::string_view path) {
-    const std::string text = replace_all(path, "\\", "/");
-    return {std::u8string(text.begin(), text.end())};
-}
-
 HostFolder HostFolder::open(std::string_view path) {
-    const std::filesystem::path folder = disk_path(path);
+    const std::filesystem::path folder = paths::to_system(path);
     std::error_code ignored;
     if (!std::filesystem::is_directory(folder, ignored)) {
         raise(HostError::Folder, "Den Ordner " + in_quotes(path) + " gibt es nicht.");
@@ -66,7 +62,7 @@ HostFolder HostFolder::open(std::string_view path) {
 }
 
 std::filesystem::path HostFolder::database_path() const {
-    return disk_path(path_) / disk_path(settings_.database_file);
+    return paths::to_system(path_) / paths::to_system(settings_.database_file);
 }
 
 std::unique_ptr<Database> HostFolder::open_database() const {
@@ -77,7 +73,7 @@ std::unique_ptr<Database> HostFolder::open_database() const {
                                      settings_.database_file + ".");
     }
     auto database = std::make_unique<sqlite::Connection>(
-        file.string(),
+        paths::to_text(file),
         sqlite::OpenOptions{.timeout = settings_.timeout, .full_sync = settings_.full_sync});
     if (database->catalog()->find("cv_password") == nullptr ||
         database->catalog()->find("Version") == nullptr) {

@@ -10,8 +10,8 @@
 
 namespace cvdeveloper::standalone {
 
-Shape::Shape(const std::vector<ResultColumn>& columns, std::shared_ptr<const Catalog> catalog,
-             std::shared_ptr<RecordSetOwner> owner)
+Shape::Shape(const std::vector<ResultColumn>& columns, std::span<const std::size_t> dates,
+             std::shared_ptr<const Catalog> catalog, std::shared_ptr<RecordSetOwner> owner)
     : catalog_(std::move(catalog)), owner_(std::move(owner)) {
     columns_.reserve(columns.size());
     for (const ResultColumn& from : columns) {
@@ -34,6 +34,9 @@ Shape::Shape(const std::vector<ResultColumn>& columns, std::shared_ptr<const Cat
         }
         all_from_tables_ = all_from_tables_ && column.table != nullptr;
         columns_.push_back(std::move(column));
+    }
+    for (const std::size_t position : dates) {
+        columns_[position].type.type = ColumnType::Date;
     }
     choose_base();
     fill_index();

@@ -38,8 +38,9 @@ class Shape {
   public:
     static constexpr std::size_t npos = static_cast<std::size_t>(-1);
 
-    Shape(const std::vector<ResultColumn>& columns, std::shared_ptr<const Catalog> catalog,
-          std::shared_ptr<RecordSetOwner> owner);
+    // dates: positions of expressions that give dates.
+    Shape(const std::vector<ResultColumn>& columns, std::span<const std::size_t> dates,
+          std::shared_ptr<const Catalog> catalog, std::shared_ptr<RecordSetOwner> owner);
 
     [[nodiscard]] const std::vector<Column>& columns() const noexcept { return columns_; }
     // The position of a column by name, or npos.

@@ -8,6 +8,7 @@
 #include "host/errors.h"
 #include "host/rules/address_rule.h"
 #include "host/session/users.h"
+#include "platform/paths.h"
 
 namespace cvdeveloper::standalone {
 
@@ -68,9 +69,10 @@ HostSession::HostSession(HostFolder folder, std::unique_ptr<Database> database,
       owner_(std::make_shared<RecordSetOwner>()),
       dictionary_(dictionary_of(*catalog_)),
       reader_(dictionary_),
-      statements_(cached_statements),
+      by_fingerprint_(cached_statements),
+      by_text_(cached_statements),
       transactions_(*database_, [this] { attachments_.settle(); }),
-      attachments_(*database_, transactions_, disk_path(folder_.path()) / "Anlagen"),
+      attachments_(*database_, transactions_, paths::to_system(folder_.path()) / "Anlagen"),
       writer_(*database_, table_rules(*database_)),
       numbers_(*database_, folder_.settings().number_digits) {}
 
@@ -97,42 +99,77 @@ void HostSession::Unit::leave() {
 RecordSet HostSession::get_record_set(std::string_view sql) {
     const GuardLock lock(guard());
     try {
-        const sql::ReadStatement& read = reader_.read(sql);
-        if (!read.broken.empty()) {
-            raise(HostError::StatementRefused,
-                  "Ein Anführungszeichen oder Kommentar ist nicht "
-                  "geschlossen: " +
-                      std::string(quoted_part(read.broken)));
+        const bool has_fingerprint = fingerprint_.take(sql);
+        Statements::Entry* const known =
+            has_fingerprint ? by_fingerprint_.find(fingerprint_.text()) : nullptr;
+        if (known == nullptr) {
+            return read_and_run(sql, has_fingerprint);
         }
-        return run(read.text, read.values, read.never_true, read.asks_for_number);
+        values_ = known->beside.values;
+        auto literal = fingerprint_.literals().begin();
+        for (Value& value : values_) {
+            if (auto* const text = std::get_if<std::string_view>(&value)) {
+                *text = *literal++;
+            }
+        }
+        return run(*known, values_);
     } catch (const AutomationError& error) {
         throw error.with_note(" Anweisung: " + std::string(quoted_part(sql)));
     }
 }
 
-RecordSet HostSession::run(std::string_view text, std::span<const Value> values, bool never_true,
-                           bool takes_numbers) {
-    auto& [statement, read] = statements_.get(text, [&] { return prepare(text, values.size()); });
+RecordSet HostSession::read_and_run(std::string_view sql, bool has_fingerprint) {
+    const sql::ReadStatement& read = reader_.read(sql);
+    if (!read.broken.empty()) {
+        raise(HostError::StatementRefused,
+              "Ein Anführungszeichen oder Kommentar ist nicht "
+              "geschlossen: " +
+                  std::string(quoted_part(read.broken)));
+    }
+    if (!has_fingerprint || !read.same_for_all_texts) {
+        return run(by_text_.get(read.text, [&] { return prepare(read); }), read.values);
+    }
+    Statements::Entry made = prepare(read);
+    made.beside.values = read.values;
+    return run(by_fingerprint_.add(fingerprint_.text(), std::move(made)), read.values);
+}
+
+// For the host's own statements.
+RecordSet HostSession::run_own(std::string_view text, std::span<const Value> values) {
+    return run(by_text_.get(text, [&] { return prepare(text, values.size(), {}); }), values);
+}
+
+RecordSet HostSession::run(Statements::Entry& entry, std::span<const Value> values) {
+    const Read& read = entry.beside;
     Rows rows(read.shape->columns().size());
-    // "WHERE 1=2" has no rows; an expression such as count(*) would still give one.
-    if (!never_true || !read.shape->all_from_tables()) {
-        statement->query(values, rows);
+    if (!read.has_no_rows) {
+        entry.statement->query(values, rows);
     }
     if (!read.counters.empty()) {
-        fill_in_numbers(read, rows, takes_numbers);
+        fill_in_numbers(read, rows);
     }
     const auto record_set = make_object<ClientRecordSet>(read.shape, std::move(rows));
     return {record_set, *record_set};
 }
 
-StatementCache<HostSession::Read>::Entry HostSession::prepare(std::string_view text,
-                                                              std::size_t values) {
+HostSession::Statements::Entry HostSession::prepare(const sql::ReadStatement& statement) {
+    Statements::Entry entry =
+        prepare(statement.text, statement.values.size(), statement.date_results);
+    // "WHERE 1=2" has no rows; an expression such as count(*) would still give one.
+    entry.beside.has_no_rows = statement.never_true && entry.beside.shape->all_from_tables();
+    entry.beside.takes_numbers = statement.asks_for_number;
+    return entry;
+}
+
+HostSession::Statements::Entry HostSession::prepare(std::string_view text, std::size_t values,
+                                                    std::span<const std::size_t> dates) {
     std::unique_ptr<Statement> statement = database_->prepare(text, Author::Caller);
     if (statement->parameter_count() != values) {
         raise(HostError::StatementRefused, "Platzhalter ohne Wert sind nicht erlaubt.");
     }
-    Read read{.shape = std::make_shared<Shape>(statement->columns(), catalog_, owner_),
-              .counters = {}};
+    Read read{.shape = std::make_shared<Shape>(statement->columns(), dates, catalog_, owner_),
+              .counters = {},
+              .values = {}};
     for (std::size_t i = 0; i < read.shape->columns().size(); ++i) {
         if (is_counter(read.shape->columns()[i])) {
             read.counters.push_back(i);
@@ -142,17 +179,17 @@ StatementCache<HostSession::Read>::Entry HostSession::prepare(std::string_view t
 }
 
 // Reading a counter by its name takes the next number; SELECT * shows the last one.
-void HostSession::fill_in_numbers(const Read& read, Rows& rows, bool take) {
+void HostSession::fill_in_numbers(const Read& read, Rows& rows) {
     const auto fill = [&] {
         for (std::size_t row = 0; row < rows.size(); ++row) {
             for (const std::size_t column : read.counters) {
                 const std::string& counter = read.shape->columns()[column].name_in_table();
                 rows.set_text(rows[row][column],
-                              take ? numbers_.take(counter) : numbers_.last(counter));
+                              read.takes_numbers ? numbers_.take(counter) : numbers_.last(counter));
             }
         }
     };
-    if (take && rows.size() > 0) {
+    if (read.takes_numbers && rows.size() > 0) {
         transactions_.run(rows.size() * read.counters.size() == 1, fill);
     } else {
         fill();
@@ -180,12 +217,12 @@ void HostSession::update_record_set(const RecordSet& record_set) {
 RecordSet HostSession::current_user() {
     const GuardLock lock(guard());
     const Value key = std::string_view(user_key_);
-    return run("SELECT * FROM Benutzer WHERE DSN=?", {&key, 1}, false, false);
+    return run_own("SELECT * FROM Benutzer WHERE DSN=?", {&key, 1});
 }
 
 RecordSet HostSession::master_data() {
     const GuardLock lock(guard());
-    return run("SELECT * FROM Std", {}, false, false);
+    return run_own("SELECT * FROM Std", {});
 }
 
 std::string HostSession::federal_state() {

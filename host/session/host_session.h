@@ -13,6 +13,7 @@
 #include "host/session/attachment_store.h"
 #include "host/session/numbers.h"
 #include "host/session/transactions.h"
+#include "host/sql/fingerprint.h"
 #include "host/sql/statement_reader.h"
 
 namespace cvdeveloper::standalone {
@@ -59,8 +60,9 @@ class HostSession final : public RefCounted {
 
     // Stops the statement that runs at the moment; from any thread.
     void interrupt() noexcept { database_->interrupt(); }
-    [[nodiscard]] const CacheStatistics& statement_statistics() const noexcept {
-        return statements_.statistics();
+    // Of the callers' prepared statements.
+    [[nodiscard]] CacheStatistics statement_statistics() const noexcept {
+        return by_fingerprint_.statistics() + by_text_.statistics();
     }
 
   private:
@@ -78,13 +80,22 @@ class HostSession final : public RefCounted {
     struct Read {
         std::shared_ptr<const Shape> shape;
         std::vector<std::size_t> counters;  // columns that show numbers of cv_counter
+        // Whether a run has no rows, whatever is in the tables; whether it takes numbers.
+        bool has_no_rows = false;
+        bool takes_numbers = false;
+        // Of a statement found by its fingerprint: the values it runs with, texts to be filled in.
+        std::vector<Value> values;
     };
+    using Statements = StatementCache<Read>;
 
     void clean_up();
-    RecordSet run(std::string_view text, std::span<const Value> values, bool never_true,
-                  bool takes_numbers);
-    StatementCache<Read>::Entry prepare(std::string_view text, std::size_t values);
-    void fill_in_numbers(const Read& read, Rows& rows, bool take);
+    RecordSet read_and_run(std::string_view sql, bool has_fingerprint);
+    RecordSet run(Statements::Entry& entry, std::span<const Value> values);
+    RecordSet run_own(std::string_view text, std::span<const Value> values);
+    Statements::Entry prepare(const sql::ReadStatement& statement);
+    Statements::Entry prepare(std::string_view text, std::size_t values,
+                              std::span<const std::size_t> dates);
+    void fill_in_numbers(const Read& read, Rows& rows);
 
     HostFolder folder_;
     std::unique_ptr<Database> database_;
@@ -93,7 +104,12 @@ class HostSession final : public RefCounted {
     std::shared_ptr<RecordSetOwner> owner_;
     sql::Dictionary dictionary_;
     sql::StatementReader reader_;
-    StatementCache<Read> statements_;
+    sql::Fingerprint fingerprint_;
+    // Most statements are found without being read; those that depend on their texts, as LIKE
+    // does, are read each time and found by what the database gets to see.
+    Statements by_fingerprint_;
+    Statements by_text_;
+    std::vector<Value> values_;
     Transactions transactions_;
     AttachmentStore attachments_;
     Unit unit_{*this};

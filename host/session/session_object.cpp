@@ -99,6 +99,13 @@ void SessionObject<Interface>::RollbackTrans() {
 }
 
 template <class Interface>
+std::string SessionObject<Interface>::StatementStatistics() {
+    const CacheStatistics seen = session().statement_statistics();
+    return "Wiederverwendet " + std::to_string(seen.hits) + ", vorbereitet " +
+           std::to_string(seen.misses) + ", verdrängt " + std::to_string(seen.evictions);
+}
+
+template <class Interface>
 std::span<const Operation> SessionObject<Interface>::shared_operations() noexcept {
     using Self = SessionObject<Interface>;
     static constexpr Parameter get_parameters[] = {
@@ -189,6 +196,13 @@ std::span<const Operation> SessionObject<Interface>::shared_operations() noexcep
          .binding = bind<&Self::RollbackTrans>,
          .parameters = {},
          .help = {.what = "Takes back everything since BeginTrans.", .errors = "No transaction."}},
+        {.id = 30,
+         .name = "StatementStatistics",
+         .kind = OperationKind::Get,
+         .binding = bind<&Self::StatementStatistics>,
+         .parameters = {},
+         .help = {.what = "How many statements of this session found one prepared already, how "
+                          "many had to be prepared, and how many prepared ones made room."}},
     };
     return rows;
 }

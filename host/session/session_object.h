@@ -29,13 +29,15 @@ class SessionObject : public LibraryObject, public Interface {
     void CommitTrans();
     void RollbackTrans();
 
+    std::string StatementStatistics();
+
     // Errors: Closed where nobody is logged on.
     HostSession& session() const;
 
   protected:
     void attach(Ref<HostSession> session);
 
-    // The rows of the members above: ids 2 to 9 and 11 to 13.
+    // The rows of the members above: ids 2 to 9, 11 to 13 and 30.
     [[nodiscard]] static std::span<const Operation> shared_operations() noexcept;
 
   private:

@@ -5,6 +5,9 @@
 #include <charconv>
 #include <optional>
 
+#include "host/sql/collation_places.h"
+#include "host/sql/date_results.h"
+
 namespace cvdeveloper::standalone::sql {
 
 namespace {
@@ -18,6 +21,10 @@ std::optional<Number> parse(std::string_view text) {
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, number);
     return error == std::errc() && stop == end ? std::optional(number) : std::nullopt;
+}
+
+bool has_comment(std::string_view gap) noexcept {
+    return gap.find_first_of("-/") != std::string_view::npos;
 }
 
 std::optional<Value> number_in(std::string_view text) {
@@ -44,17 +51,6 @@ bool is_day(std::string_view text) noexcept {
     });
 }
 
-bool is_comparison(const Token& token) noexcept {
-    static constexpr std::array<std::string_view, 8> operators = {
-        "=", "==", "<>", "!=", "<", "<=", ">", ">="};
-    return token.kind == TokenKind::Operator &&
-           std::ranges::find(operators, token.text) != operators.end();
-}
-
-std::string_view unquoted(std::string_view name) noexcept {
-    return name.substr(1, name.size() - 2);
-}
-
 }  // namespace
 
 const ReadStatement& StatementReader::read(std::string_view statement) {
@@ -66,12 +62,22 @@ const ReadStatement& StatementReader::read(std::string_view statement) {
     result_.text.clear();
     result_.values.clear();
     result_.asks_for_number = false;
+    result_.same_for_all_texts = true;
     result_.broken = {};
+    find_collation_places(tokens_, collation_places_);
+    auto collated = collation_places_.begin();
     for (std::size_t i = 0; i < tokens_.size(); ++i) {
         append_gap(i);
         places_.push_back(result_.text.size());
         read_token(i);
+        if (collated != collation_places_.end() && *collated == i) {
+            result_.text += " COLLATE CVTEXT";
+            ++collated;
+        }
     }
+    const std::string_view rest = statement.substr(tokens_.empty() ? 0 : tokens_.back().end());
+    result_.same_for_all_texts = result_.same_for_all_texts && !has_comment(rest);
+    result_.date_results = find_date_results(tokens_, dictionary_);
     result_.never_true = finds_never_true();
     return result_;
 }
@@ -80,8 +86,9 @@ void StatementReader::append_gap(std::size_t token) {
     const std::size_t begin = token == 0 ? 0 : tokens_[token - 1].end();
     const std::string_view gap = statement_.substr(begin, tokens_[token].begin - begin);
     // White space stays, since the text of an expression is the name of its column.
-    const bool has_comment = gap.find_first_of("-/") != std::string_view::npos;
-    result_.text += has_comment ? std::string_view(" ") : gap;
+    result_.text += has_comment(gap) ? std::string_view(" ") : gap;
+    // Comments, quoted names and bytes may hold quotes that begin no text.
+    result_.same_for_all_texts = result_.same_for_all_texts && !has_comment(gap);
 }
 
 void StatementReader::read_token(std::size_t index) {
@@ -91,8 +98,9 @@ void StatementReader::read_token(std::size_t index) {
             read_name(index);
             return;
         case TokenKind::QuotedName:
+            result_.same_for_all_texts = false;
             result_.text += token.text.front();
-            result_.text += dictionary_.spelling().of(unquoted(token.text), use_of(index));
+            result_.text += dictionary_.spelling().of(token.unquoted(), use_of(index));
             result_.text += token.text.back();
             return;
         case TokenKind::String:
@@ -111,6 +119,7 @@ void StatementReader::read_token(std::size_t index) {
             } else if (token.is(")") && levels_.size() > 1) {
                 levels_.pop_back();
             }
+            result_.same_for_all_texts = result_.same_for_all_texts && token.text.back() != '\'';
             break;
     }
     result_.text += token.text;
@@ -178,20 +187,24 @@ void StatementReader::lift(Value value) {
 void StatementReader::read_string(std::size_t index) {
     const Token& token = tokens_[index];
     if (!may_lift(index)) {
+        result_.same_for_all_texts = false;
         result_.text += token.text;
         return;
     }
     std::string_view text = text_of(token);
-    // Dates are kept with their time of day; one without is midnight.
-    if (is_day(text) && is_compared_with_date(index)) {
-        text = texts_.emplace_back(std::string(text) + " 00:00:00");
+    result_.same_for_all_texts =
+        result_.same_for_all_texts && text.data() == token.unquoted().data();
+    if (is_compared_with_date(index)) {
+        result_.same_for_all_texts = false;
+        // Dates are kept with their time of day; one without is midnight.
+        if (is_day(text)) {
+            text = texts_.emplace_back(std::string(text) + " 00:00:00");
+        }
     }
     lift(text);
     if (tokens_[index - 1].is_keyword("LIKE")) {
+        result_.same_for_all_texts = false;
         add_range_of_like(index, text);
-    } else if (is_compared_with_function(index)) {
-        // Columns compare as users expect by themselves, results of functions do not.
-        result_.text += " COLLATE CVTEXT";
     }
 }
 
@@ -201,7 +214,7 @@ void StatementReader::add_range_of_like(std::size_t index, std::string_view patt
     const Token* const next = at(index + 1);
     const std::string_view prefix = pattern.substr(0, pattern.find_first_of("%_"));
     if (index < 2 || prefix.find_first_not_of(' ') == std::string_view::npos ||
-        kind_of(tokens_[index - 2]) != ColumnKind::Text ||
+        dictionary_.kind_of(tokens_[index - 2]) != ColumnKind::Text ||
         (next != nullptr && next->is_keyword("ESCAPE"))) {
         return;
     }
@@ -218,30 +231,15 @@ void StatementReader::add_range_of_like(std::size_t index, std::string_view patt
     result_.text.insert(begin, 1, '(');
 }
 
-bool StatementReader::is_compared_with_function(std::size_t index) const {
-    return index >= 2 && is_comparison(tokens_[index - 1]) && tokens_[index - 2].is(")");
-}
-
-ColumnKind StatementReader::kind_of(const Token& name) const {
-    switch (name.kind) {
-        case TokenKind::Name:
-            return dictionary_.kind_of(name.text);
-        case TokenKind::QuotedName:
-            return dictionary_.kind_of(unquoted(name.text));
-        default:
-            return ColumnKind::Other;
-    }
-}
-
 void StatementReader::read_number(std::size_t index) {
     const Token& token = tokens_[index];
     // "1=2" stays: the database sees at once that no row can match.
     const Token* const before = index >= 2 ? at(index - 2) : nullptr;
     const Token* const after = at(index + 2);
-    const bool compared =
-        (before != nullptr && before->kind == TokenKind::Number &&
-         is_comparison(tokens_[index - 1])) ||
-        (after != nullptr && after->kind == TokenKind::Number && is_comparison(tokens_[index + 1]));
+    const bool compared = (before != nullptr && before->kind == TokenKind::Number &&
+                           tokens_[index - 1].is_comparison()) ||
+                          (after != nullptr && after->kind == TokenKind::Number &&
+                           tokens_[index + 1].is_comparison());
     if (!compared && may_lift(index)) {
         if (const auto value = number_in(token.text)) {
             lift(*value);
@@ -255,7 +253,7 @@ bool StatementReader::is_compared_with_date(std::size_t index) const {
     // Datum >= '...', Datum BETWEEN '...' AND '...', Datum IN ('...', '...')
     std::size_t column = index;
     const Token& before = tokens_[index - 1];
-    if (is_comparison(before) || before.is_keyword("BETWEEN")) {
+    if (before.is_comparison() || before.is_keyword("BETWEEN")) {
         column = index - 2;
     } else if (before.is_keyword("AND") && index >= 4 && tokens_[index - 3].is_keyword("BETWEEN")) {
         column = index - 4;
@@ -274,11 +272,11 @@ bool StatementReader::is_compared_with_date(std::size_t index) const {
     if (tokens_[column].is_keyword("NOT") && column > 0) {
         --column;
     }
-    return kind_of(tokens_[column]) == ColumnKind::Date;
+    return dictionary_.kind_of(tokens_[column]) == ColumnKind::Date;
 }
 
 std::string_view StatementReader::text_of(const Token& string_token) {
-    const std::string_view text = unquoted(string_token.text);
+    const std::string_view text = string_token.unquoted();
     if (text.find('\'') == std::string_view::npos) {
         return text;
     }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "host/database/value.h"
+#include "host/sql/dictionary.h"
 #include "host/sql/names.h"
 #include "host/sql/token.h"
 
@@ -22,32 +23,11 @@ struct ReadStatement {
     bool never_true = false;
     // The select list names a column that gives out numbers ("Kennung_AKT").
     bool asks_for_number = false;
+    // Other texts between the same quotes would read alike: the same text, their own as values.
+    bool same_for_all_texts = true;
+    // Positions of results that are dates, though the database calls them texts.
+    std::vector<std::size_t> date_results;
     std::string_view broken;  // the quote or comment without its end, if there is one
-};
-
-enum class ColumnKind : std::uint8_t { Text, Date, Other };
-
-// What the reader knows of the schema.
-class Dictionary {
-  public:
-    void add_table(std::string_view name) { spelling_.add(name, NameUse::Table); }
-    // A name that columns of different kinds share is of no kind.
-    void add_column(std::string_view name, ColumnKind kind) {
-        spelling_.add(name, NameUse::Column);
-        const auto [known, is_new] = kinds_.emplace(name, kind);
-        if (!is_new && known->second != kind) {
-            known->second = ColumnKind::Other;
-        }
-    }
-    [[nodiscard]] const Spelling& spelling() const noexcept { return spelling_; }
-    [[nodiscard]] ColumnKind kind_of(std::string_view column) const {
-        const auto found = kinds_.find(column);
-        return found == kinds_.end() ? ColumnKind::Other : found->second;
-    }
-
-  private:
-    Spelling spelling_;
-    NameMap<ColumnKind> kinds_;
 };
 
 // Reads a caller's statement once, from token to token. Literals of conditions become parameters;
@@ -79,8 +59,6 @@ class StatementReader {
     [[nodiscard]] NameUse use_of(std::size_t index) const;
     void add_range_of_like(std::size_t index, std::string_view pattern);
     [[nodiscard]] bool is_compared_with_date(std::size_t index) const;
-    [[nodiscard]] bool is_compared_with_function(std::size_t index) const;
-    [[nodiscard]] ColumnKind kind_of(const Token& name) const;
     [[nodiscard]] std::string_view text_of(const Token& string_token);
     [[nodiscard]] bool finds_never_true() const;
     [[nodiscard]] const Token* at(std::size_t index) const noexcept {
@@ -90,6 +68,7 @@ class StatementReader {
     const Dictionary& dictionary_;
     std::string_view statement_;
     std::vector<Token> tokens_;
+    std::vector<std::size_t> collation_places_;
     std::vector<std::size_t> places_;  // of the tokens in the text read so far
     std::vector<Level> levels_;
     std::deque<std::string> texts_;  // literals that differ from their spelling

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 #include "platform/utf8.h"
 
@@ -72,6 +73,9 @@ constexpr bool is_ascii(char c) noexcept {
 }
 
 std::string_view without_trailing_blanks(std::string_view text) noexcept {
+    if (!text.empty() && text.back() != ' ') {
+        return text;
+    }
     const std::size_t last = text.find_last_not_of(' ');
     return last == std::string_view::npos ? std::string_view() : text.substr(0, last + 1);
 }
@@ -96,6 +100,24 @@ class Folded {
     std::string_view text_;
     std::size_t at_ = 0;
 };
+
+// How many bytes at the beginning are the same ASCII characters, in steps of eight.
+std::size_t same_ascii(std::string_view left, std::string_view right) noexcept {
+    constexpr std::uint64_t beyond_ascii = 0x8080808080808080;
+    const std::size_t common = std::min(left.size(), right.size());
+    std::size_t at = 0;
+    while (at + sizeof(std::uint64_t) <= common) {
+        std::uint64_t a = 0;
+        std::uint64_t b = 0;
+        std::memcpy(&a, left.data() + at, sizeof a);
+        std::memcpy(&b, right.data() + at, sizeof b);
+        if (a != b || (a & beyond_ascii) != 0) {
+            break;
+        }
+        at += sizeof a;
+    }
+    return at;
+}
 
 int compare_from(std::string_view left, std::string_view right) noexcept {
     Folded one(left);
@@ -173,7 +195,7 @@ int compare_texts(std::string_view left, std::string_view right) noexcept {
     const std::string_view other = without_trailing_blanks(right);
     // Keys and most texts are ASCII: the first difference decides.
     const std::size_t common = std::min(one.size(), other.size());
-    std::size_t at = 0;
+    std::size_t at = same_ascii(one, other);
     while (at < common && is_ascii(one[at]) && is_ascii(other[at])) {
         const std::uint8_t a = ascii_folded[static_cast<unsigned char>(one[at])];
         const std::uint8_t b = ascii_folded[static_cast<unsigned char>(other[at])];

@@ -155,6 +155,12 @@ bool Token::is_keyword(std::string_view upper_case_word) const noexcept {
            std::ranges::equal(text, upper_case_word, {}, [](char c) { return upper(c); });
 }
 
+bool Token::is_comparison() const noexcept {
+    static constexpr std::array<std::string_view, 8> operators = {
+        "=", "==", "<>", "!=", "<", "<=", ">", ">="};
+    return kind == TokenKind::Operator && std::ranges::find(operators, text) != operators.end();
+}
+
 void tokenize(std::string_view statement, std::vector<Token>& tokens) {
     tokens.clear();
     Scanner(statement).run(tokens);

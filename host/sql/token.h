@@ -28,6 +28,13 @@ struct Token {
     }
     // A plain identifier equal to the keyword, which is given in upper case.
     [[nodiscard]] bool is_keyword(std::string_view upper_case_word) const noexcept;
+    // "=" and its like.
+    [[nodiscard]] bool is_comparison() const noexcept;
+    // A name, or what a quoted name or text has between its quotes.
+    [[nodiscard]] std::string_view unquoted() const noexcept {
+        const bool has_quotes = kind == TokenKind::QuotedName || kind == TokenKind::String;
+        return has_quotes ? text.substr(1, text.size() - 2) : text;
+    }
 };
 
 // Takes the statement apart. Never fails: every byte that is no white space and no comment lands

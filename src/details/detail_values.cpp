@@ -27,15 +27,33 @@ struct Place {
 };
 
 // The join leaves out rows whose record is gone.
-RecordSet detail_rows(Session& session, const Place& place, const std::string& columns) {
+RecordSet detail_rows(Session& session, const Place& place, std::string_view columns) {
     host::Util& util = session.util();
-    const std::string main(place.table);
+    const std::string_view main = place.table;
     const std::string details = place.detail_table();
-    return Gateway(session).CV_GetRecordset(
-        "SELECT " + columns + " FROM " + main + " INNER JOIN " + details + " ON " + main +
-        ".dsn = " + details + "." + main + "_dsn WHERE (" + main +
-        ".DSN=" + util.SqlUid(place.record_key) + ") AND (" + details +
-        ".FLDART_DSN=" + util.SqlUid(place.field_kind_key) + ") ORDER BY " + details + ".DSN");
+    return Gateway(session).CV_GetRecordset(joined({"SELECT ",
+                                                    columns,
+                                                    " FROM ",
+                                                    main,
+                                                    " INNER JOIN ",
+                                                    details,
+                                                    " ON ",
+                                                    main,
+                                                    ".dsn = ",
+                                                    details,
+                                                    ".",
+                                                    main,
+                                                    "_dsn WHERE (",
+                                                    main,
+                                                    ".DSN=",
+                                                    util.SqlUid(place.record_key),
+                                                    ") AND (",
+                                                    details,
+                                                    ".FLDART_DSN=",
+                                                    util.SqlUid(place.field_kind_key),
+                                                    ") ORDER BY ",
+                                                    details,
+                                                    ".DSN"}));
 }
 
 RecordSet whole_rows(Session& session, const Place& place) {

@@ -54,6 +54,12 @@ std::string read_text(std::string_view path);
 // TMPDIR where it names a folder, else a folder of the user's own that nobody else may enter; on
 // Windows the system's own.
 std::string temp_folder();
+// A new folder there, which only the user may enter; its name begins so.
+std::string new_temp_folder(std::string_view name);
+
+// Nobody but the user may use the file or folder from here on, nor what is made in the folder. A
+// file system without rights leaves everything as it is.
+void restrict_to_owner(std::string_view path);
 
 // A file open for writing. What is written is in the file at once; what is appended goes to its
 // end in one piece, whoever else writes.

@@ -1,6 +1,6 @@
 #include "platform/paths.h"
 
-#include <filesystem>
+#include <algorithm>
 
 namespace cvdeveloper::paths {
 namespace {
@@ -36,6 +36,19 @@ std::string join(std::string_view folder, std::string_view name) {
         path += backslashes == slashes ? own_separator : backslashes ? '\\' : '/';
     }
     return path.append(name);
+}
+
+std::filesystem::path to_system(std::string_view path) {
+    std::u8string text(path.begin(), path.end());
+    if constexpr (own_separator == '/') {
+        std::ranges::replace(text, u8'\\', u8'/');
+    }
+    return text;
+}
+
+std::string to_text(const std::filesystem::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
 }
 
 }  // namespace cvdeveloper::paths

@@ -92,6 +92,19 @@ std::string_view trim_blanks(std::string_view text) noexcept {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
+std::string joined(std::initializer_list<std::string_view> pieces) {
+    std::size_t size = 0;
+    for (const std::string_view piece : pieces) {
+        size += piece.size();
+    }
+    std::string text;
+    text.reserve(size);
+    for (const std::string_view piece : pieces) {
+        text += piece;
+    }
+    return text;
+}
+
 std::string replace_all(std::string_view text, std::string_view what, std::string_view with) {
     if (what.empty()) {
         return std::string(text);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,9 @@ bool equal_ignoring_case(std::string_view left, std::string_view right);
 
 // Without the blanks (not tabs, not line breaks) at both ends.
 std::string_view trim_blanks(std::string_view text) noexcept;
+
+// The pieces one after the other, with one allocation: for statements of many pieces.
+std::string joined(std::initializer_list<std::string_view> pieces);
 
 std::string replace_all(std::string_view text, std::string_view what, std::string_view with);
 

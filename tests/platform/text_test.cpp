@@ -54,6 +54,11 @@ TEST(Text, ReplaceAllReplacesEachOccurrenceOnce) {
     EXPECT_EQ(replace_all("", "a", "x"), "");
 }
 
+TEST(Text, JoinedPutsThePiecesTogether) {
+    EXPECT_EQ(joined({"a", "", "bc"}), "abc");
+    EXPECT_EQ(joined({}), "");
+}
+
 TEST(Text, TakeFirstWalksAList) {
     std::string list = "a|b||c";
     EXPECT_EQ(take_first(list, "|"), "a");

@@ -186,4 +186,20 @@ std::string temp_folder() {
     return folder;
 }
 
+std::string new_temp_folder(std::string_view name) {
+    std::string folder = paths::join(temp_folder(), name).append("-XXXXXX");
+    if (mkdtemp(folder.data()) == nullptr) {
+        raise_file_error(errno, folder);
+    }
+    return folder;
+}
+
+void restrict_to_owner(std::string_view path) {
+    constexpr mode_t of_folder = 0700;
+    constexpr mode_t of_file = 0600;
+    if (chmod(native(path).c_str(), folder_exists(path) ? of_folder : of_file) != 0) {
+        raise_file_error(errno, path);
+    }
+}
+
 }  // namespace cvdeveloper::files

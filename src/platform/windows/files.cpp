@@ -121,7 +121,7 @@ bool is_hidden(std::string_view path) {
 }
 
 bool rename(std::string_view from, std::string_view to) {
-    if (MoveFileExW(native(from).c_str(), native(to).c_str(), 0) != FALSE) {
+    if (MoveFileExW(native(from).c_str(), native(to).c_str(), MOVEFILE_WRITE_THROUGH) != FALSE) {
         return true;
     }
     const DWORD error = GetLastError();

@@ -132,6 +132,60 @@ TEST_F(CallersStatement, ComparesTextsAsUsersExpect) {
     EXPECT_EQ(order, "K-1ÖlOlmOzeStr");
 }
 
+TEST_F(CallersStatement, ComparesResultsOfExpressionsAsUsersExpect) {
+    for (const char* subject : {"Öl", "Olm", "ozean ", "Zaun"}) {
+        add_activity(subject);
+    }
+    const auto count = [this](const std::string& condition) {
+        return single("SELECT count(*) FROM AKT WHERE " + condition);
+    };
+    EXPECT_EQ(count("UPPER(Subject)='öl'"), Variant(1));
+    EXPECT_EQ(count("LOWER(Subject) IN ('ÖL','Ozean')"), Variant(2));
+    EXPECT_EQ(count("'ÖL'=LOWER(Subject)"), Variant(1));
+    EXPECT_EQ(count("Subject || Subject = 'ölöl'"), Variant(1));
+    EXPECT_EQ(count("LEFT(Subject,2) BETWEEN 'O' AND 'OM'"), Variant(2));
+    EXPECT_EQ(count("CASE WHEN Subject='Öl' THEN 'Ja' END = 'ja'"), Variant(1));
+    for (const char* statement : {"SELECT UPPER(Subject) FROM AKT ORDER BY UPPER(Subject)",
+                                  "SELECT UPPER(Subject) AS n FROM AKT ORDER BY n",
+                                  "SELECT UPPER(Subject) FROM AKT ORDER BY 1",
+                                  "SELECT UPPER(Subject) FROM AKT GROUP BY UPPER(Subject)"}) {
+        std::string order;
+        for (const RecordSet rs = select(statement); !rs.at_end(); rs.move_next()) {
+            order += rs.value_at(0).get<std::string>().substr(0, 3);
+        }
+        EXPECT_EQ(order, "ÖLOLMOZEZAU") << statement;
+    }
+}
+
+TEST_F(CallersStatement, ComparesEveryTextWithTheOneShapeItIsCachedUnder) {
+    add_activity("O'Hara");
+    add_activity("--");
+    add_activity("");
+    const auto count = [this](const std::string& text) {
+        return single("SELECT count(*) FROM AKT WHERE Subject='" + text + "'");
+    };
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_EQ(count("x"), Variant(0));
+        EXPECT_EQ(count("O''Hara"), Variant(1));
+        EXPECT_EQ(count("--"), Variant(1));
+        EXPECT_EQ(count(""), Variant(1));
+        EXPECT_EQ(count("x' OR Subject='--"), Variant(1));
+    }
+}
+
+TEST_F(CallersStatement, GivesTheFirstAndLastDateAsDates) {
+    const RecordSet rs = select("SELECT * FROM AKT WHERE 1=2");
+    for (const double days : {46081.5, 46083.0}) {
+        rs.add_new();
+        rs.set("DSN", std::to_string(days));
+        rs.set("Datum", Date{days});
+    }
+    save(rs);
+    EXPECT_EQ(single("SELECT MAX(Datum) FROM AKT"), Variant(Date{46083.0}));
+    EXPECT_EQ(single("SELECT MIN(AKT.Datum) AS Beginn FROM AKT"), Variant(Date{46081.5}));
+    EXPECT_EQ(single("SELECT MAX(Datum) FROM AKT WHERE Subject='x'"), Variant(Null{}));
+}
+
 TEST_F(CallersStatement, FindsDatesByTheirText) {
     const RecordSet rs = select("SELECT * FROM AKT WHERE 1=2");
     for (const double days : {46081.5, 46082.0, 46082.75, 46083.0}) {
@@ -158,6 +212,9 @@ TEST_F(CallersStatement, SharesOnePreparedStatementAmongAllKeys) {
     const auto after = connector->session().statement_statistics();
     EXPECT_EQ(after.misses - before.misses, 1U);
     EXPECT_EQ(after.hits - before.hits, 49U);
+    EXPECT_EQ(connector->StatementStatistics(),
+              "Wiederverwendet " + std::to_string(after.hits) + ", vorbereitet " +
+                  std::to_string(after.misses) + ", verdrängt 0");
 }
 
 TEST_F(CallersStatement, CanBeStoppedFromAnotherThread) {

