@@ -157,6 +157,10 @@ HRESULT run(Instance& self, const Operation& operation, const DISPPARAMS& parame
     return S_OK;
 }
 
+bool gives_object(const Operation& row) {
+    return row.kind == OperationKind::Get && row.binding.result.type == ValueType::Object;
+}
+
 // rs("Name") = 1 and folder.Files("x") mean the default member of what the property gives.
 HRESULT invoke_default(Instance& self, const Operation& property, const DISPPARAMS& own, WORD flags,
                        DISPPARAMS rest, VARIANT* result, EXCEPINFO* exception) {
@@ -179,8 +183,7 @@ HRESULT put(Instance& self, const NativeClass::Members& members, WORD flags,
     if (members.write != nullptr) {
         return run(self, *members.write, parameters, nullptr);
     }
-    if (members.read == nullptr || members.read->kind != OperationKind::Get ||
-        parameters.cArgs == 0) {
+    if (members.read == nullptr || !gives_object(*members.read) || parameters.cArgs == 0) {
         return DISP_E_MEMBERNOTFOUND;
     }
     const DISPPARAMS own{parameters.rgvarg + 1, nullptr, parameters.cArgs - 1, 0};
@@ -195,9 +198,7 @@ HRESULT read(Instance& self, const NativeClass::Members& members, WORD flags,
         return DISP_E_MEMBERNOTFOUND;
     }
     const Operation& row = *members.read;
-    const bool gives_object = row.binding.result.type == ValueType::Object;
-    if (row.kind == OperationKind::Get && row.parameters.empty() && parameters.cArgs > 0 &&
-        gives_object) {
+    if (gives_object(row) && row.parameters.empty() && parameters.cArgs > 0) {
         return invoke_default(self, row, {}, flags, parameters, result, exception);
     }
     return run(self, row, parameters, result);
