@@ -3,6 +3,7 @@
 import os
 import shutil
 import subprocess
+import tempfile
 from dataclasses import dataclass
 from pathlib import Path
 
@@ -63,12 +64,18 @@ class Prefix:
         self.run("wineboot", "-i", timeout=180)
 
     def run(self, *words, timeout=60) -> Result:
-        done = subprocess.run(
-            [WINE, *map(str, words)],
-            env=self.environment, cwd=self.folder.parent, capture_output=True, timeout=timeout,
-        )
-        text = done.stdout.decode("utf-8").replace("\r\n", "\n")
-        return Result(done.returncode, text.splitlines(), done.stderr.decode("utf-8", "replace"))
+        # Into files: Wine's own processes keep a pipe open long after the program has ended.
+        with tempfile.TemporaryFile() as out, tempfile.TemporaryFile() as errors:
+            done = subprocess.run(
+                [WINE, *map(str, words)],
+                env=self.environment, cwd=self.folder.parent, timeout=timeout,
+                stdin=subprocess.DEVNULL, stdout=out, stderr=errors,
+            )
+            texts = []
+            for file in (out, errors):
+                file.seek(0)
+                texts.append(file.read().decode("utf-8", "replace").replace("\r\n", "\n"))
+        return Result(done.returncode, texts[0].splitlines(), texts[1])
 
     def program(self, name: str, *words) -> Result:
         return self.run(BUILD / "tests" / f"{name}.exe", *words)

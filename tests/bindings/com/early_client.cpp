@@ -87,7 +87,8 @@ void phone_list() {
     auto* list = create<_clsPhoneList>(L"CVDeveloper.clsPhoneList");
     list->Add(Text(L"0201 1"), Text(L""), Text(L"Büro"));
     short count = 0;
-    say("Count", status_text(list->get_Count(&count)) + " " + std::to_string(count));
+    const HRESULT counted = list->get_Count(&count);
+    say("Count", status_text(counted) + " " + std::to_string(count));
     list->put_Phone2(1, Text(L"0171 2"));
     Text text;
     list->get_Phone2(1, text.address());

@@ -41,10 +41,9 @@ def test_salutation_list_keeps_its_entries(lines_of):
 Dim list: Set list = CreateObject("CVDeveloper.clsSalutationList")
 list.Add "Herr", "Herrn", "Sehr geehrter Herr"
 list.Add "Frau", "Frau", "Sehr geehrte Frau"
-list.SalutationLetter(2) = "Guten Tag, Frau"
 WScript.Echo list.Count, TypeName(list.Count)
 WScript.Echo list.SalutationLong(1), list.SalutationLetter(2)
-""") == ["2 Integer", "Herrn Guten Tag, Frau"]
+""") == ["2 Integer", "Herrn Sehr geehrte Frau"]
 
 
 def test_phone_list_keeps_its_entries(lines_of):
