@@ -119,7 +119,15 @@ Variant ForeignObject::invoke(std::string_view member, InvokeKind kind, Argument
     if (!arguments.names.empty()) {
         raise(RuntimeError::NamedArgumentNotFound, member);
     }
-    const DISPID id = id_of(member);
+    return invoke(id_of(member), member, kind, arguments);
+}
+
+Variant ForeignObject::default_value() {
+    return invoke(DISPID_VALUE, {}, InvokeKind::Get, {});
+}
+
+Variant ForeignObject::invoke(DISPID id, std::string_view member, InvokeKind kind,
+                              const Arguments& arguments) {
     CallArguments passed(arguments);
     const bool put = kind == InvokeKind::Put;
     DISPID put_id = DISPID_PROPERTYPUT;

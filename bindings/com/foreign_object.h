@@ -15,12 +15,14 @@ class ForeignObject final : public Object {
     explicit ForeignObject(Interface<IDispatch> dispatch);
 
     Variant invoke(std::string_view member, InvokeKind kind, Arguments arguments) override;
+    Variant default_value() override;
     [[nodiscard]] std::string_view class_name() const noexcept override { return "Object"; }
 
     // The object as it came in.
     [[nodiscard]] IDispatch* get() const noexcept { return dispatch_.get(); }
 
   private:
+    Variant invoke(DISPID id, std::string_view member, InvokeKind kind, const Arguments& arguments);
     [[nodiscard]] DISPID id_of(std::string_view member) const;
     HRESULT call(DISPID id, WORD flags, DISPPARAMS& parameters, VARIANT* result,
                  EXCEPINFO& information) const noexcept;

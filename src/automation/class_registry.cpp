@@ -106,8 +106,7 @@ ObjectRef active_object(std::string_view class_name) {
     SystemClasses system;
     {
         const std::lock_guard lock(all.mutex);
-        if (const auto found = all.active.find(lower_case(class_name));
-            found != all.active.end()) {
+        if (const auto found = all.active.find(lower_case(class_name)); found != all.active.end()) {
             return found->second;
         }
         system = all.system;

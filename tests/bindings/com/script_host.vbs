@@ -2,7 +2,8 @@ Option Explicit
 
 ' A host that keeps what it is asked, with record sets of one row whose fields have any name.
 Class ScriptField
-    Public Name, Recordset
+    Public Name
+    Public Recordset
     Public Property Get Value
         If Recordset.Values.Exists(Name) Then
             Value = Recordset.Values.Item(Name)
@@ -17,8 +18,8 @@ Class ScriptField
     Public Property Let Value(what)
         Recordset.Values.Item(Name) = what
     End Property
-    Public Property Get [Type]
-        [Type] = 200
+    Public Property Get Type
+        Type = 200
     End Property
 End Class
 
@@ -35,7 +36,8 @@ Class ScriptFields
 End Class
 
 Class ScriptRecordset
-    Public Values, At
+    Public Values
+    Public At
     Private Sub Class_Initialize
         Set Values = CreateObject("Scripting.Dictionary")
         At = 0
@@ -83,7 +85,9 @@ Class ScriptUtil
 End Class
 
 Class ScriptHost
-    Public Util, LastRecordset, Replacement
+    Public Util
+    Public LastRecordset
+    Public Replacement
     Private lines
     Private Sub Class_Initialize
         Set Util = New ScriptUtil
