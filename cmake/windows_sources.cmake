@@ -28,9 +28,12 @@ target_include_directories(sodium SYSTEM
   PRIVATE ${sources}/libsodium/src/libsodium/include/sodium)
 target_compile_definitions(sodium
   PUBLIC SODIUM_STATIC
+  PRIVATE CONFIGURED=1 NATIVE_LITTLE_ENDIAN=1)
+if(CMAKE_SIZEOF_VOID_P EQUAL 8)
   # What its configure would find; which of the instructions are used is decided when it runs.
-  PRIVATE CONFIGURED=1 NATIVE_LITTLE_ENDIAN=1 HAVE_CPUID=1 HAVE_MMINTRIN_H=1 HAVE_EMMINTRIN_H=1
-          HAVE_TMMINTRIN_H=1 HAVE_SMMINTRIN_H=1 HAVE_AVX2INTRIN_H=1)
+  target_compile_definitions(sodium PRIVATE HAVE_CPUID=1 HAVE_MMINTRIN_H=1 HAVE_EMMINTRIN_H=1
+    HAVE_TMMINTRIN_H=1 HAVE_SMMINTRIN_H=1 HAVE_AVX2INTRIN_H=1)
+endif()
 
 # Warnings in them are their makers' concern.
 set_target_properties(sqlite3 sodium PROPERTIES COMPILE_OPTIONS -w)

@@ -5,7 +5,8 @@
 
 namespace cvdeveloper::standalone {
 
-// A new random record key: 36 characters in capitals, without braces.
+// A new record key: 36 characters in capitals, without braces. Later keys sort behind earlier ones,
+// to a quarter of a microsecond.
 std::string new_key();
 
 // A text as a literal of a statement, in quotes.

@@ -120,6 +120,12 @@ void Rows::set_bytes(Cell& cell, std::span<const std::byte> bytes) {
     cell.kind = CellKind::Bytes;
 }
 
+void Rows::keep_content(Cell& cell) {
+    if (cell.kind == CellKind::Text || cell.kind == CellKind::Bytes) {
+        cell.data = keep(cell.data, cell.size);
+    }
+}
+
 void Rows::set_null(Cell& cell) noexcept {
     cell.integer = 0;
     cell.size = 0;

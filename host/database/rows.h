@@ -50,6 +50,8 @@ class Rows {
 
     void set_text(Cell& cell, std::string_view text);
     void set_bytes(Cell& cell, std::span<const std::byte> bytes);
+    // The text or bytes of a cell copied from other rows become these rows' own.
+    void keep_content(Cell& cell);
     static void set_null(Cell& cell) noexcept;
     static void set_integer(Cell& cell, std::int64_t value) noexcept;
     static void set_double(Cell& cell, double value) noexcept;

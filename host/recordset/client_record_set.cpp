@@ -201,7 +201,58 @@ void ClientRecordSet::set_value(std::string_view name, Variant value) {
     set_at(position_of(name), value);
 }
 
+void ClientRecordSet::plan_copy(const Shape& source, std::string_view excluded) {
+    copy_plan_.source = &source;
+    copy_plan_.excluded = excluded;
+    copy_plan_.steps.clear();
+    for (std::size_t from = 0; from < source.columns().size(); ++from) {
+        const Column& column = source.columns()[from];
+        if (host::names_field(excluded, column.name)) {
+            continue;
+        }
+        const std::size_t to = shape_->find(column.name);
+        const bool same_column = to != Shape::npos && column.table != nullptr &&
+                                 shape_->columns()[to].table == column.table &&
+                                 shape_->columns()[to].table_column == column.table_column;
+        copy_plan_.steps.push_back({from, to, same_column});
+    }
+}
+
+void ClientRecordSet::copy_fields(host::RecordSet& source, std::string_view excluded) {
+    auto* const other = dynamic_cast<ClientRecordSet*>(&source);
+    if (other == nullptr) {
+        host::RecordSet::copy_fields(source, excluded);
+        return;
+    }
+    if (copy_plan_.source != other->shape_.get() || copy_plan_.excluded != excluded) {
+        plan_copy(*other->shape_, excluded);
+    }
+    for (const CopyPlan::Step& step : copy_plan_.steps) {
+        const Cell& cell = other->current_cell(step.from);
+        const Column& from = other->shape_->columns()[step.from];
+        if (step.to == Shape::npos) {
+            shape_->raise_unknown(from.name);
+        }
+        const Column& to = shape_->columns()[step.to];
+        if (step.same_column && survives_assignment(cell, to)) {
+            require_writable(step.to);
+            Cell written = cell;
+            rows_.keep_content(written);
+            write(step.to, written);
+        } else {
+            set_at(step.to, to_variant(cell, from.type.type));
+        }
+    }
+}
+
 void ClientRecordSet::set_at(std::size_t position, const Variant& value) {
+    require_writable(position);
+    Cell written = rows_[at_][position];
+    assign(rows_, written, shape_->columns()[position], value);
+    write(position, written);
+}
+
+void ClientRecordSet::require_writable(std::size_t position) const {
     require_current_row();
     if (!is_visible(at_)) {
         raise(HostError::NoCurrentRow, "Der Datensatz aus " + std::string(shape_->table_name()) +
@@ -213,14 +264,14 @@ void ClientRecordSet::set_at(std::size_t position, const Variant& value) {
                                            std::string(shape_->table_name()) +
                                            " und kann nicht geschrieben werden.");
     }
-    Cell& cell = rows_[at_][position];
-    Cell written = cell;
-    assign(rows_, written, column, value);
+}
+
+void ClientRecordSet::write(std::size_t position, Cell written) {
     if (state(at_) == RowState::Unchanged) {
         note_change(RowState::Changed, rows_.keep_copy(rows_[at_]));
     }
     written.changed = true;
-    cell = written;
+    rows_[at_][position] = written;
 }
 
 void ClientRecordSet::mark_saved(const SavedChanges& saved) {

@@ -52,6 +52,7 @@ class ClientRecordSet final : public LibraryObject, public host::RecordSet {
     Variant value(std::string_view name) override;
     Variant value_at(std::int32_t position) override;
     void set_value(std::string_view name, Variant value) override;
+    void copy_fields(host::RecordSet& source, std::string_view excluded) override;
 
     // What script writers use besides.
     bool at_begin();
@@ -90,6 +91,21 @@ class ClientRecordSet final : public LibraryObject, public host::RecordSet {
     [[nodiscard]] bool is_visible(std::size_t row) const noexcept;
     void require_open() const;
     void require_current_row() const;
+    // Which fields of record sets of one shape go where, found once for all rows.
+    struct CopyPlan {
+        struct Step {
+            std::size_t from;
+            std::size_t to;  // Shape::npos where there is no such field
+            bool same_column;
+        };
+        const Shape* source = nullptr;
+        std::string excluded;
+        std::vector<Step> steps;
+    };
+
+    void plan_copy(const Shape& source, std::string_view excluded);
+    void require_writable(std::size_t position) const;
+    void write(std::size_t position, Cell written);
     void show_host_value(const HostValue& value);
     void note_change(RowState state, std::span<const Cell> original);
 
@@ -100,6 +116,7 @@ class ClientRecordSet final : public LibraryObject, public host::RecordSet {
     bool is_open_ = true;
     std::vector<RowState> states_;  // empty until the first change
     std::vector<Change> changes_;
+    CopyPlan copy_plan_;
 };
 
 }  // namespace cvdeveloper::standalone

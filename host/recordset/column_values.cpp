@@ -163,6 +163,30 @@ void assign(Rows& rows, Cell& cell, const Column& column, const Variant& value) 
     }
 }
 
+bool survives_assignment(const Cell& cell, const Column& column) noexcept {
+    constexpr std::size_t whole_date = std::string_view("2026-03-01 14:30:00").size();
+    const ColumnType type = column.type.type;
+    switch (cell.kind) {
+        case CellKind::Null:
+            return !column.required;
+        case CellKind::Integer:
+            return (type == ColumnType::Int16 && std::in_range<std::int16_t>(cell.integer)) ||
+                   (type == ColumnType::Int32 && std::in_range<std::int32_t>(cell.integer));
+        case CellKind::Double:
+            return type == ColumnType::Double;
+        case CellKind::Text:
+            // No text has more characters than bytes.
+            return type == ColumnType::LongText ||
+                   (type == ColumnType::Text &&
+                    std::cmp_less_equal(cell.size, column.type.length)) ||
+                   (type == ColumnType::Date && cell.size == whole_date &&
+                    parse_date_text(cell.text()).has_value());
+        case CellKind::Bytes:
+            return type == ColumnType::Bytes;
+    }
+    return false;
+}
+
 std::int32_t ado_type(const Cell* cell, ColumnType type) noexcept {
     switch (type) {
         case ColumnType::Text:

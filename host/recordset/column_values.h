@@ -12,6 +12,10 @@ Variant to_variant(const Cell& cell, ColumnType type);
 // Errors: ValueRefused with table, column and limit; the cell is then unchanged.
 void assign(Rows& rows, Cell& cell, const Column& column, const Variant& value);
 
+// Whether a column's own value, read and assigned to the column again, is the very same cell. False
+// also where finding out would take long.
+bool survives_assignment(const Cell& cell, const Column& column) noexcept;
+
 // ADO's number of the field's type.
 std::int32_t ado_type(const Cell* cell, ColumnType type) noexcept;
 

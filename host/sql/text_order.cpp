@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 
@@ -72,12 +73,11 @@ constexpr bool is_ascii(char c) noexcept {
     return static_cast<unsigned char>(c) < 0x80;
 }
 
-std::string_view without_trailing_blanks(std::string_view text) noexcept {
-    if (!text.empty() && text.back() != ' ') {
-        return text;
+inline std::string_view without_trailing_blanks(std::string_view text) noexcept {
+    while (!text.empty() && text.back() == ' ') {
+        text.remove_suffix(1);
     }
-    const std::size_t last = text.find_last_not_of(' ');
-    return last == std::string_view::npos ? std::string_view() : text.substr(0, last + 1);
+    return text;
 }
 
 // Reads a text folded, character by character.
@@ -111,8 +111,13 @@ std::size_t same_ascii(std::string_view left, std::string_view right) noexcept {
         std::uint64_t b = 0;
         std::memcpy(&a, left.data() + at, sizeof a);
         std::memcpy(&b, right.data() + at, sizeof b);
-        if (a != b || (a & beyond_ascii) != 0) {
+        if (((a | b) & beyond_ascii) != 0) {
             break;
+        }
+        if (a != b) {
+            // The bytes of a word lie in the order of the text on every machine we build for.
+            static_assert(std::endian::native == std::endian::little);
+            return at + static_cast<std::size_t>(std::countr_zero(a ^ b)) / 8;
         }
         at += sizeof a;
     }

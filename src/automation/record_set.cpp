@@ -2,8 +2,23 @@
 
 #include "cvdeveloper/automation/conversions.h"
 #include "cvdeveloper/automation/runtime_errors.h"
+#include "platform/text.h"
 
 namespace cvdeveloper {
+
+bool host::names_field(std::string_view list, std::string_view field) {
+    return list.find(joined({"|", upper_case(field), "|"})) != std::string_view::npos;
+}
+
+void host::RecordSet::copy_fields(RecordSet& source, std::string_view excluded) {
+    const std::int32_t count = source.field_count();
+    for (std::int32_t position = 0; position < count; ++position) {
+        const std::string name = source.field_name(position);
+        if (!names_field(excluded, name)) {
+            set_value(name, source.value_at(position));
+        }
+    }
+}
 
 namespace {
 
@@ -102,6 +117,12 @@ Variant RecordSet::value_at(std::int32_t position) const {
 
 void RecordSet::set(std::string_view name, Variant value) const {
     with(object_, native_, [&](host::RecordSet& rs) { rs.set_value(name, std::move(value)); });
+}
+
+void RecordSet::copy_fields(const RecordSet& source, std::string_view excluded) const {
+    with(source.object_, source.native_, [&](host::RecordSet& from) {
+        with(object_, native_, [&](host::RecordSet& rs) { rs.copy_fields(from, excluded); });
+    });
 }
 
 }  // namespace cvdeveloper

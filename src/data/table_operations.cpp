@@ -143,13 +143,7 @@ std::int32_t TableOperations::SQL_DeleteWhere(std::string_view strTable,
 
 void TableOperations::Sql_CopyFields(const RecordSet& rsSource, const RecordSet& rsDest,
                                      std::string_view strNegFieldList) const {
-    const std::int32_t count = rsSource.field_count();
-    for (std::int32_t position = 0; position < count; ++position) {
-        const std::string name = rsSource.field_name(position);
-        if (strNegFieldList.find("|" + upper_case(name) + "|") == std::string_view::npos) {
-            rsDest.set(name, rsSource.value_at(position));
-        }
-    }
+    rsDest.copy_fields(rsSource, strNegFieldList);
 }
 
 }  // namespace cvdeveloper

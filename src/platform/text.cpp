@@ -16,11 +16,16 @@ bool is_ascii(char character) noexcept {
     return static_cast<unsigned char>(character) < 0x80;
 }
 
-template <class Mapping>
-std::string mapped(std::string_view text, Mapping mapping) {
-    std::string result;
-    result.reserve(text.size());
-    for (std::size_t position = 0; position < text.size();) {
+// Most texts are names in ASCII; the rest begins with the first other character.
+template <class AsciiMapping, class Mapping>
+std::string mapped(std::string_view text, AsciiMapping map_ascii, Mapping mapping) {
+    std::string result(text);
+    std::size_t position = 0;
+    for (; position < text.size() && is_ascii(text[position]); ++position) {
+        result[position] = map_ascii(text[position]);
+    }
+    result.resize(position);
+    while (position < text.size()) {
         const utf8::Character character = utf8::decode(text, position);
         utf8::append(result, mapping(character.code));
         position += character.length;
@@ -57,11 +62,15 @@ std::string_view first_units(std::string_view text, std::size_t units) noexcept 
 }
 
 std::string upper_case(std::string_view text) {
-    return mapped(text, [](char32_t code) { return upper_case(code); });
+    return mapped(
+        text, [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c; },
+        [](char32_t code) { return upper_case(code); });
 }
 
 std::string lower_case(std::string_view text) {
-    return mapped(text, [](char32_t code) { return lower_case(code); });
+    return mapped(
+        text, [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; },
+        [](char32_t code) { return lower_case(code); });
 }
 
 bool equal_ignoring_case(std::string_view left, std::string_view right) {

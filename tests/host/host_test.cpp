@@ -6,11 +6,11 @@ namespace cvdeveloper::standalone::testing {
 
 std::filesystem::path prepared_folder(bool sample) {
     static const TemporaryFolder folder;
-    const std::filesystem::path path = folder.path(sample ? "muster" : "leer");
-    if (!std::filesystem::exists(path)) {
-        create_folder(path.string(), {.sample = sample});
+    const std::string path = folder.path(sample ? "muster" : "leer");
+    if (!files::folder_exists(path)) {
+        create_folder(path, {.sample = sample});
     }
-    return path;
+    return paths::to_system(path);
 }
 
 std::string HostTest::add_activity(std::string_view subject) {

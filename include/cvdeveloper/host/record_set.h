@@ -9,6 +9,9 @@
 
 namespace cvdeveloper::host {
 
+// Whether a list such as "|DSN|STAMP|" names a field; its names are in capitals.
+bool names_field(std::string_view list, std::string_view field);
+
 // One column of a record set's current row, as writing it to a file needs it.
 class Field {
   public:
@@ -34,6 +37,10 @@ class RecordSet {
     virtual Variant value(std::string_view name) = 0;
     virtual Variant value_at(std::int32_t position) = 0;
     virtual void set_value(std::string_view name, Variant value) = 0;
+    // Gives the current row the values of another's, field by field and by name, but for the fields
+    // that the list names ("|DSN|STAMP|"). Hosts that know a shorter way between two record sets of
+    // their own may take it.
+    virtual void copy_fields(RecordSet& source, std::string_view excluded);
 };
 
 }  // namespace cvdeveloper::host
@@ -63,6 +70,7 @@ class RecordSet {
     [[nodiscard]] Variant value(std::string_view name) const;
     [[nodiscard]] Variant value_at(std::int32_t position) const;
     void set(std::string_view name, Variant value) const;
+    void copy_fields(const RecordSet& source, std::string_view excluded) const;
 
   private:
     ObjectRef object_;

@@ -1,10 +1,11 @@
 #include "platform/regional.h"
 
-#include <cmath>
+#include <array>
 
 #include "cvdeveloper/automation/runtime_errors.h"
+#include "platform/decimal.h"
+#include "platform/text.h"
 #include "platform/windows/bstr.h"
-#include "platform/windows/currency.h"
 
 namespace cvdeveloper::regional {
 namespace {
@@ -15,33 +16,15 @@ void check(HRESULT result) {
     }
 }
 
-VARIANT variant_of(double number) {
-    VARIANT value;
-    VariantInit(&value);
-    value.vt = VT_R8;
-    value.dblVal = number;
-    return value;
-}
-
-using Formatter = HRESULT STDAPICALLTYPE(VARIANT*, INT, INT, INT, INT, ULONG, BSTR*);
-
-std::string formatted(Formatter& formatter, double number, const NumberFormat& format) {
-    if (!std::isfinite(number)) {
-        return number_text(number);
-    }
-    VARIANT value = variant_of(number);
-    BSTR text = nullptr;
-    check(formatter(&value, format.decimals, format.leading_digit, format.parentheses,
-                    format.grouping, 0, &text));
-    return take_text(text);
-}
-
 }  // namespace
 
+// The runtime's rule is the same everywhere; only the decimal sign is the user's.
 std::string number_text(double number) {
-    BSTR text = nullptr;
-    check(VarBstrFromR8(number, LOCALE_USER_DEFAULT, 0, &text));
-    return take_text(text);
+    std::array<wchar_t, 8> decimal_sign{};
+    GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_SDECIMAL, decimal_sign.data(),
+                    static_cast<int>(decimal_sign.size()));
+    return replace_all(decimal_text(number, '.', LeadingZero::Written), ".",
+                       to_utf8(decimal_sign.data()));
 }
 
 std::string general_date(Date date) {
@@ -57,21 +40,11 @@ std::string boolean_text(bool value) {
     return take_text(text);
 }
 
-std::string format_number(double number, const NumberFormat& format) {
-    return formatted(VarFormatNumber, number, format);
-}
-
-std::string format_percent(double number, const NumberFormat& format) {
-    return formatted(VarFormatPercent, number, format);
-}
-
-std::string format_currency(double number, const NumberFormat& format) {
-    return std::isfinite(number) ? currency_text(number, format) : number_text(number);
-}
-
 std::string format_date(Date date, DateFormat format) {
-    VARIANT value = variant_of(date.days);
+    VARIANT value;
+    VariantInit(&value);
     value.vt = VT_DATE;
+    value.date = date.days;
     BSTR text = nullptr;
     check(VarFormatDateTime(&value, static_cast<INT>(format), 0, &text));
     return take_text(text);

@@ -212,9 +212,9 @@ TEST_F(CallersStatement, SharesOnePreparedStatementAmongAllKeys) {
     const auto after = connector->session().statement_statistics();
     EXPECT_EQ(after.misses - before.misses, 1U);
     EXPECT_EQ(after.hits - before.hits, 49U);
-    EXPECT_EQ(connector->StatementStatistics(),
-              "Wiederverwendet " + std::to_string(after.hits) + ", vorbereitet " +
-                  std::to_string(after.misses) + ", verdrängt 0");
+    EXPECT_EQ(connector->StatementStatistics(), "Wiederverwendet " + std::to_string(after.hits) +
+                                                    ", vorbereitet " +
+                                                    std::to_string(after.misses) + ", verdrängt 0");
 }
 
 TEST_F(CallersStatement, CanBeStoppedFromAnotherThread) {

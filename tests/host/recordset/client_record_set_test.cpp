@@ -187,6 +187,64 @@ TEST_F(ARecordSet, ConvertsWhatItCan) {
     EXPECT_EQ(read.value("Notiz"), Variant(Null{}));
 }
 
+TEST_F(ARecordSet, TakesAnothersFieldsAsIfTheyWereSetOneByOne) {
+    const RecordSet from = all();
+    from.set("Km", 12.5);
+    from.set("Erledigt", 1);
+    from.set("Datum", "2026-03-01 14:30:00");
+    from.set("Vorlage", "2026-03-01");
+    from.set("Notiz", std::string(5000, 'n') + "ä");
+    from.set("Stichwort1", std::string(4, ' '));
+    save(from);
+    const RecordSet source = all();
+    const RecordSet copies = select("SELECT * FROM AKT WHERE 1=2");
+    const RecordSet one_by_one = select("SELECT * FROM AKT WHERE 1=2");
+    for (; !source.at_end(); source.move_next()) {
+        copies.add_new();
+        copies.copy_fields(source, "|DSN|STAMP|");
+        one_by_one.add_new();
+        for (std::int32_t i = 0; i < source.field_count(); ++i) {
+            const std::string name = source.field_name(i);
+            if (name != "DSN" && name != "STAMP") {
+                one_by_one.set(name, source.value_at(i));
+            }
+            EXPECT_EQ(copies.value(name), one_by_one.value(name)) << name;
+        }
+        EXPECT_EQ(copies.value("DSN"), Variant(Null{}));
+        copies.set("DSN", "Kopie " + copies.value("Subject").get<std::string>());
+    }
+    save(copies);
+    EXPECT_EQ(single("SELECT Notiz FROM AKT WHERE DSN='Kopie a'"),
+              Variant(std::string(5000, 'n') + "ä"));
+    EXPECT_EQ(single("SELECT count(*) FROM AKT WHERE DSN LIKE 'Kopie%'"), Variant(3));
+}
+
+TEST_F(ARecordSet, TakesFieldsThatTheStatementSpellsOrOrdersDifferently) {
+    const RecordSet source = select("SELECT Stichwort1 AS Subject, KM FROM AKT ORDER BY Subject");
+    const RecordSet copy = select("SELECT DSN, Km, Subject FROM AKT WHERE 1=2");
+    copy.add_new();
+    copy.copy_fields(source, "");
+    EXPECT_EQ(copy.value("Subject"), source.value("Subject"));
+    EXPECT_EQ(copy.value("Km"), source.value("Km"));
+}
+
+TEST_F(ARecordSet, RefusesFieldsThatItCannotTakeAndKeepsThoseBefore) {
+    const RecordSet source = all();
+    const RecordSet copy = select("SELECT DSN, Subject FROM AKT WHERE 1=2");
+    EXPECT_EQ(error_of([&] { copy.copy_fields(source, ""); }).number(),
+              number(HostError::NoCurrentRow));
+    copy.add_new();
+    const AutomationError error =
+        error_of([&] { copy.copy_fields(source, "|STAMP|KENNUNG|AKT_DSN|ART_DSN|"); });
+    EXPECT_EQ(error.number(), number(HostError::UnknownField));
+    EXPECT_EQ(copy.value("Subject"), Variant("a"));
+    source.move_next();
+    source.move_next();
+    source.move_next();
+    EXPECT_EQ(error_of([&] { copy.copy_fields(source, ""); }).number(),
+              number(HostError::NoCurrentRow));
+}
+
 TEST_F(ARecordSet, GivesNothingOnceClosed) {
     const RecordSet rs = all();
     object(rs).call("Close");

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <set>
+#include <thread>
 
 #include "cvdeveloper/automation/error.h"
 #include "host/services/standard_util.h"
@@ -23,11 +25,22 @@ TEST(Util, MakesKeysThatAreAllDifferent) {
     for (int i = 0; i < 1000; ++i) {
         const std::string key = util.NewGUID();
         ASSERT_EQ(key.size(), 36U);
-        ASSERT_EQ(key[14], '4');
+        ASSERT_EQ(key[14], '7');
         ASSERT_EQ(key.find_first_not_of("0123456789ABCDEF-"), std::string::npos);
         keys.insert(key);
     }
     EXPECT_EQ(keys.size(), 1000U);
+}
+
+TEST(Util, MakesLaterKeysThatSortBehindEarlierOnes) {
+    Util util;
+    std::string before = util.NewGUID();
+    for (int i = 0; i < 50; ++i) {
+        std::this_thread::sleep_for(std::chrono::microseconds(5));
+        std::string key = util.NewGUID();
+        ASSERT_GT(key, before);
+        before = std::move(key);
+    }
 }
 
 TEST(Util, ConvertsWithoutStumblingOverNull) {
