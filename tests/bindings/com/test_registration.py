@@ -2,7 +2,7 @@
 
 import pytest
 
-from conftest import BUILD, windows_path
+from wine_prefix import BUILD, windows_path
 
 CLASSES = ("Application", "clsBase", "clsTools", "clsSalutationList", "clsPhoneList",
            "clsFileSystem")

@@ -4,7 +4,7 @@ tests/tools/list_script_test.cpp and tests/bindings/python/test_list_script.py h
 the results that stand in the file; this compares line by line what VBScript gives.
 """
 
-from conftest import ROOT
+from wine_prefix import ROOT
 
 SCRIPT = ROOT / "tests" / "tools" / "list_script.txt"
 

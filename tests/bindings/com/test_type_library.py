@@ -4,7 +4,7 @@ import re
 
 import pytest
 
-from conftest import BUILD, ROOT, windows_path
+from wine_prefix import BUILD, ROOT, windows_path
 
 IDL = (ROOT / "bindings" / "com" / "cvdeveloper.idl").read_text(encoding="utf-8")
 OPERATION = re.compile(

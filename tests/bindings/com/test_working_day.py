@@ -5,7 +5,7 @@ import subprocess
 
 import pytest
 
-from conftest import ROOT, windows_path
+from wine_prefix import ROOT, windows_path
 
 EXAMPLE = ROOT / "examples" / "windows" / "arbeitstag.vbs"
 CONNECT = """
