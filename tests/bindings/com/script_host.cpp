@@ -169,7 +169,8 @@ class WScript final : public SmallObject {
         for (UINT i = given.cArgs; i-- > 0;) {
             VARIANT text;
             VariantInit(&text);
-            const HRESULT status = VariantChangeType(&text, &given.rgvarg[i], VARIANT_LOCALBOOL, VT_BSTR);
+            const HRESULT status =
+                VariantChangeType(&text, &given.rgvarg[i], VARIANT_LOCALBOOL, VT_BSTR);
             if (FAILED(status)) {
                 return status;
             }
