@@ -5,6 +5,7 @@
 #include <iostream>
 #include <string>
 
+#include "bindings/com/class_ids.h"
 #include "cvdeveloper/automation/idl.h"
 #include "cvdeveloper/automation/reference.h"
 #include "cvdeveloper/public_classes.h"
@@ -42,7 +43,8 @@ int interface(Words arguments) {
         throw UsageError{"no arguments are taken"};
     }
     if (options.has("--idl")) {
-        std::cout << cvdeveloper::idl_text(cvdeveloper::public_classes(),
+        std::cout << cvdeveloper::idl_text(cvdeveloper::com::library_ids,
+                                           cvdeveloper::documented_classes(),
                                            cvdeveloper::enumerations());
         return EXIT_SUCCESS;
     }
