@@ -14,7 +14,12 @@ void raise(HostError error, std::string description) {
 }
 
 bool is_disk_full(int system_error) noexcept {
-    return system_error == ENOSPC || system_error == EDQUOT || system_error == EFBIG;
+#ifdef EDQUOT  // not every system has quotas
+    if (system_error == EDQUOT) {
+        return true;
+    }
+#endif
+    return system_error == ENOSPC || system_error == EFBIG;
 }
 
 bool is_missing_right(int system_error) noexcept {

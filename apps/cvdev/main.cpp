@@ -6,6 +6,7 @@
 
 #include "commands.h"
 #include "cvdeveloper/automation/error.h"
+#include "process.h"
 
 namespace {
 
@@ -34,7 +35,7 @@ int run(const std::vector<std::string>& words) {
 
 int main(int count, char** values) {
     try {
-        return run(std::vector<std::string>(values + 1, values + count));
+        return run(cvdev::start(count, values));
     } catch (const cvdev::UsageError& error) {
         std::cerr << "cvdev: " << error.text << "\n\n";
         print_usage(std::cerr);

@@ -1,13 +1,21 @@
 #include "terminal_progress.h"
 
-#include <unistd.h>
-
 #include <iostream>
+
+#include "host/platform/terminal.h"
 
 namespace cvdev {
 
+namespace {
+
+constexpr int error_output = 2;
+
+}  // namespace
+
 TerminalProgress::TerminalProgress(std::string_view what)
-    : what_(what), is_terminal_(isatty(STDERR_FILENO) != 0), bar_(STDERR_FILENO) {}
+    : what_(what),
+      is_terminal_(cvdeveloper::standalone::terminal::is_there(error_output)),
+      bar_(error_output) {}
 
 void TerminalProgress::operator()(std::string_view step, double share) {
     if (is_terminal_) {

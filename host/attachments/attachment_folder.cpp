@@ -1,12 +1,11 @@
 #include "host/attachments/attachment_folder.h"
 
-#include <cerrno>
-
 #include "cvdeveloper/automation/error.h"
 #include "cvdeveloper/automation/runtime_errors.h"
 #include "host/errors.h"
 #include "host/keys.h"
-#include "platform/posix/file_errors.h"
+#include "platform/files.h"
+#include "platform/paths.h"
 
 namespace cvdeveloper::standalone {
 
@@ -28,18 +27,10 @@ bool is_given_name(std::string_view name) {
     return is_key(name);
 }
 
-void rename_file(const std::string& from, const std::string& to) {
-    std::error_code error;
-    fs::rename(from, to, error);
-    if (error) {
-        files::raise_file_error(error.value(), to);
-    }
-}
-
 }  // namespace
 
 std::string AttachmentFolder::path_of(std::string_view name) const {
-    return (path_ / name).string();
+    return paths::to_text(path_ / name);
 }
 
 // A file system that knows no locks gives none to a clean-up either, so nothing is lost there.
@@ -49,9 +40,9 @@ void AttachmentFolder::hold() {
     }
     std::error_code error;
     if (fs::create_directory(path_, error)) {
-        fs::permissions(path_, fs::perms::owner_all, error);
+        files::restrict_to_owner(paths::to_text(path_));
     }
-    held_ = std::make_unique<OpenFile>(path_.string(), OpenFile::Mode::Folder);
+    held_ = std::make_unique<OpenFile>(paths::to_text(path_), OpenFile::Mode::Folder);
     held_->lock_shared();
 }
 
@@ -60,7 +51,7 @@ bool AttachmentFolder::hold_alone() {
     if (held_ != nullptr || !fs::is_directory(path_, ignored)) {
         return false;
     }
-    auto folder = std::make_unique<OpenFile>(path_.string(), OpenFile::Mode::Folder);
+    auto folder = std::make_unique<OpenFile>(paths::to_text(path_), OpenFile::Mode::Folder);
     if (!folder->try_lock_alone()) {
         return false;
     }
@@ -90,7 +81,7 @@ StoredContent AttachmentFolder::take_in(std::string_view source) {
         OpenFile to(temporary, OpenFile::Mode::CreateNew);
         stored.content = copy_content(from, to);
         to.sync();
-        rename_file(temporary, path_of(stored.name));
+        files::rename(temporary, path_of(stored.name));
         held_->sync();
     } catch (const AutomationError& error) {
         remove(stored.name + std::string(temporary_end));
@@ -128,7 +119,7 @@ std::vector<std::string> AttachmentFolder::names() const {
     std::error_code error;
     for (fs::directory_iterator entry(path_, error); !error && entry != fs::directory_iterator();
          entry.increment(error)) {
-        std::string name = entry->path().filename().string();
+        std::string name = paths::to_text(entry->path().filename());
         if (is_given_name(name)) {
             names.push_back(std::move(name));
         }

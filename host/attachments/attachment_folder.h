@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "host/attachments/content.h"
-#include "host/attachments/open_file.h"
+#include "host/platform/open_file.h"
 
 namespace cvdeveloper::standalone {
 

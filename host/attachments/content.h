@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "host/attachments/open_file.h"
+#include "host/platform/open_file.h"
 
 namespace cvdeveloper::standalone {
 

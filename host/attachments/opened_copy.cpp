@@ -1,13 +1,10 @@
 #include "host/attachments/opened_copy.h"
 
-#include <stdlib.h>
-
-#include <cerrno>
 #include <filesystem>
 #include <system_error>
 
 #include "platform/files.h"
-#include "platform/posix/file_errors.h"
+#include "platform/paths.h"
 
 namespace cvdeveloper::standalone {
 
@@ -20,23 +17,15 @@ std::string file_name(std::string_view source) {
     return name.empty() || name == "." || name == ".." ? "Anlage" : std::string(name);
 }
 
-std::string new_folder() {
-    std::string folder = files::temp_folder() + "/Anlage-XXXXXX";
-    if (mkdtemp(folder.data()) == nullptr) {
-        files::raise_file_error(errno, folder);
-    }
-    return folder;
-}
-
 }  // namespace
 
 OpenedCopy::OpenedCopy(std::string_view source)
-    : folder_(new_folder()), path_(folder_ + "/" + file_name(source)) {}
+    : folder_(files::new_temp_folder("Anlage")), path_(paths::join(folder_, file_name(source))) {}
 
 OpenedCopy::~OpenedCopy() {
     if (!is_kept_) {
         std::error_code ignored;
-        std::filesystem::remove_all(folder_, ignored);
+        std::filesystem::remove_all(paths::to_system(folder_), ignored);
     }
 }
 

@@ -5,13 +5,15 @@
 #include <fstream>
 #include <vector>
 
-#include "host/attachments/open_file.h"
 #include "host/database/sqlite/connection.h"
 #include "host/errors.h"
 #include "host/folder/host_folder.h"
 #include "host/folder/load_rows.h"
 #include "host/folder/schema_folder.h"
+#include "host/platform/open_file.h"
 #include "host/session/users.h"
+#include "platform/files.h"
+#include "platform/paths.h"
 
 namespace cvdeveloper::standalone {
 
@@ -62,13 +64,13 @@ void make_folder(const fs::path& folder, Undo& undo) {
     if (fs::create_directory(folder)) {
         undo.remember(folder);
     }
-    fs::permissions(folder, fs::perms::owner_all);
+    files::restrict_to_owner(paths::to_text(folder));
 }
 
 void fill_database(const fs::path& file, const CreateOptions& options) {
     // Syncing each step would only slow this down: the file gets its name when it is complete.
-    sqlite::Connection database(file.string(), {.create = true, .sync = Sync::Never});
-    fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
+    sqlite::Connection database(paths::to_text(file), {.create = true, .sync = Sync::Never});
+    files::restrict_to_owner(paths::to_text(file));
     const fs::path schema = schema_folder();
     database.begin();
     database.run_script(read_schema_file(schema / "schema.sql"));
@@ -86,7 +88,7 @@ void fill_database(const fs::path& file, const CreateOptions& options) {
 }
 
 void make_all(std::string_view path, const CreateOptions& options) {
-    const fs::path folder = disk_path(path);
+    const fs::path folder = paths::to_system(path);
     if (fs::exists(folder / "corvanta.db") || fs::exists(folder / "corvanta.ini")) {
         raise(HostError::Folder,
               "Der Ordner '" + std::string(path) + "' enthält schon eine Datenbank.");
@@ -109,10 +111,10 @@ void make_all(std::string_view path, const CreateOptions& options) {
         raise_system_failure(errno, "Die Datei corvanta.ini im Ordner " + in_quotes(path) +
                                         " kann nicht geschrieben werden");
     }
-    fs::permissions(ini, fs::perms::owner_read | fs::perms::owner_write);
-    OpenFile(unfinished.string(), OpenFile::Mode::Read).sync();
+    files::restrict_to_owner(paths::to_text(ini));
+    OpenFile(paths::to_text(unfinished), OpenFile::Mode::Append).sync();
     fs::rename(unfinished, folder / "corvanta.db");
-    OpenFile(folder.string(), OpenFile::Mode::Folder).sync();
+    OpenFile(paths::to_text(folder), OpenFile::Mode::Folder).sync();
     undo.keep();
 }
 

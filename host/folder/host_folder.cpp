@@ -10,6 +10,7 @@
 #include "host/errors.h"
 #include "host/folder/ini_file.h"
 #include "host/folder/upgrade.h"
+#include "platform/paths.h"
 #include "platform/text.h"
 
 namespace cvdeveloper::standalone {
@@ -94,13 +95,8 @@ std::filesystem::file_status status_of(const std::filesystem::path& file, const 
 
 }  // namespace
 
-std::filesystem::path disk_path(std::string_view path) {
-    const std::string text = replace_all(path, "\\", "/");
-    return {std::u8string(text.begin(), text.end())};
-}
-
 HostFolder HostFolder::open(std::string_view path) {
-    const std::filesystem::path folder = disk_path(path);
+    const std::filesystem::path folder = paths::to_system(path);
     const std::string unreadable =
         "Die Datei corvanta.ini im Ordner " + in_quotes(path) + " kann nicht gelesen werden";
     if (!is_directory(status_of(folder, unreadable))) {
@@ -119,20 +115,20 @@ HostFolder HostFolder::open(std::string_view path) {
 }
 
 std::filesystem::path HostFolder::database_path() const {
-    return disk_path(path_) / disk_path(settings_.database_file);
+    return paths::to_system(path_) / paths::to_system(settings_.database_file);
 }
 
 std::unique_ptr<sqlite::Connection> HostFolder::connect() const {
     const std::filesystem::path file = database_path();
-    if (!exists(status_of(
-            file, "Die Datenbank " + in_quotes(file.string()) + " kann nicht geöffnet werden"))) {
+    if (!exists(status_of(file, "Die Datenbank " + in_quotes(paths::to_text(file)) +
+                                    " kann nicht geöffnet werden"))) {
         raise(HostError::Folder, "Im Ordner " + in_quotes(path_) + " fehlt die Datenbank " +
                                      settings_.database_file + ".");
     }
     auto database = std::make_unique<sqlite::Connection>(
-        file.string(), sqlite::OpenOptions{.timeout = settings_.timeout,
-                                           .statement_limit = settings_.statement_limit,
-                                           .sync = settings_.sync});
+        paths::to_text(file), sqlite::OpenOptions{.timeout = settings_.timeout,
+                                                  .statement_limit = settings_.statement_limit,
+                                                  .sync = settings_.sync});
     if (database->catalog()->find("cv_password") == nullptr ||
         database->catalog()->find("Version") == nullptr) {
         raise(HostError::Folder, "Die Datei " + settings_.database_file + " im Ordner " +
@@ -162,7 +158,7 @@ std::unique_ptr<Database> HostFolder::open_database() const {
 }
 
 HostLog HostFolder::log() const {
-    return HostLog(disk_path(path_) / "corvanta.log");
+    return HostLog(paths::to_system(path_) / "corvanta.log");
 }
 
 }  // namespace cvdeveloper::standalone

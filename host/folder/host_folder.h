@@ -62,7 +62,4 @@ class HostFolder {
     Settings settings_;
 };
 
-// "\" and "/" both separate folders.
-std::filesystem::path disk_path(std::string_view path);
-
 }  // namespace cvdeveloper::standalone

@@ -1,14 +1,14 @@
 #include "host/folder/host_log.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <exception>
 #include <string>
 
-#include "host/attachments/open_file.h"
 #include "host/database/date_text.h"
+#include "host/platform/open_file.h"
+#include "host/platform/process.h"
 #include "platform/clock.h"
+#include "platform/paths.h"
 
 namespace cvdeveloper::standalone {
 
@@ -27,8 +27,8 @@ std::string one_line(std::string_view text) {
 void HostLog::note(std::string_view event) const noexcept {
     try {
         const std::string line = date_text(now()).value_or("") + "  " + one_line(event) +
-                                 " (Prozess " + std::to_string(getpid()) + ")\n";
-        OpenFile(file_.string(), OpenFile::Mode::Append)
+                                 " (Prozess " + std::to_string(process_number()) + ")\n";
+        OpenFile(paths::to_text(file_), OpenFile::Mode::Append)
             .write({reinterpret_cast<const unsigned char*>(line.data()), line.size()});
     } catch (const std::exception&) {
         return;

@@ -7,14 +7,14 @@
 #include "host/errors.h"
 #include "host/folder/csv.h"
 #include "host/folder/schema_folder.h"
+#include "platform/paths.h"
 
 namespace cvdeveloper::standalone {
 
 namespace {
 
 std::string name_of(const std::filesystem::path& file) {
-    const std::u8string name = file.stem().u8string();
-    return {name.begin(), name.end()};
+    return paths::to_text(file.stem());
 }
 
 void load_file(Database& database, const std::filesystem::path& file) {
@@ -34,7 +34,7 @@ void load_file(Database& database, const std::filesystem::path& file) {
     const auto insert = database.prepare(statement + " VALUES (" + places + ")", Author::Host);
     for (std::size_t number = 1; reader.next(row); ++number) {
         if (row.size() != columns) {
-            raise(HostError::Folder, "Die Datei '" + file.string() + "' hat in Zeile " +
+            raise(HostError::Folder, "Die Datei '" + paths::to_text(file) + "' hat in Zeile " +
                                          std::to_string(number) + " nicht " +
                                          std::to_string(columns) + " Werte.");
         }

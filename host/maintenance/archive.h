@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/attachments/open_file.h"
+#include "host/platform/open_file.h"
 
 struct archive;
 struct archive_entry;

@@ -16,6 +16,7 @@
 #include "host/maintenance/backup_parts.h"
 #include "host/maintenance/stored_attachments.h"
 #include "platform/clock.h"
+#include "platform/paths.h"
 
 namespace cvdeveloper::standalone {
 
@@ -71,7 +72,7 @@ class Backup {
   public:
     Backup(std::string_view folder, const std::string& file, const Progression& progress)
         : host_folder_(HostFolder::open(folder)),
-          folder_(disk_path(folder)),
+          folder_(paths::to_system(folder)),
           file_(file),
           progress_(progress),
           attachments_(folder_ / "Anlagen") {}
@@ -168,7 +169,7 @@ class Backup {
 }  // namespace
 
 std::uint64_t back_up(std::string_view folder, std::string_view file, const Progression& progress) {
-    return Backup(folder, disk_path(file).string(), progress).write();
+    return Backup(folder, paths::to_system(file).string(), progress).write();
 }
 
 }  // namespace cvdeveloper::standalone

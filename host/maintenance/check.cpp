@@ -9,6 +9,7 @@
 #include "host/folder/host_folder.h"
 #include "host/maintenance/check_database.h"
 #include "host/maintenance/stored_attachments.h"
+#include "platform/paths.h"
 
 namespace cvdeveloper::standalone {
 
@@ -120,7 +121,7 @@ CheckReport check_folder(std::string_view path, const Progression& progress) {
         report.rows = check_rows(*database, report.problems);
         check_counters(*database, report.problems);
         progress("Anlagen", share_of_database);
-        check_attachments(*database, disk_path(path) / "Anlagen", report, progress);
+        check_attachments(*database, paths::to_system(path) / "Anlagen", report, progress);
     } catch (const AutomationError& error) {
         // A damaged database is what the check is for; anything else keeps it from checking.
         if (error.number() != static_cast<std::int32_t>(HostError::Damaged)) {
@@ -128,7 +129,7 @@ CheckReport check_folder(std::string_view path, const Progression& progress) {
         }
         report.problems.push_back(error.description());
     }
-    check_rights(disk_path(path), folder.database_path(), report.problems);
+    check_rights(paths::to_system(path), folder.database_path(), report.problems);
     progress("Rechte", 1);
     return report;
 }

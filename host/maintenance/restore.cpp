@@ -3,13 +3,14 @@
 #include <memory>
 #include <string>
 
-#include "host/attachments/open_file.h"
 #include "host/errors.h"
 #include "host/folder/host_folder.h"
 #include "host/maintenance/archive.h"
 #include "host/maintenance/backup.h"
 #include "host/maintenance/backup_parts.h"
 #include "host/maintenance/check.h"
+#include "host/platform/open_file.h"
+#include "platform/paths.h"
 
 namespace cvdeveloper::standalone {
 
@@ -158,11 +159,11 @@ void restore_into(const std::string& file, const fs::path& folder, const Progres
 
 void restore(std::string_view file, std::string_view folder, const Progression& progress) {
     try {
-        fs::path target = fs::absolute(disk_path(folder)).lexically_normal();
+        fs::path target = fs::absolute(paths::to_system(folder)).lexically_normal();
         if (!target.has_filename()) {
             target = target.parent_path();  // "folder/" is the folder
         }
-        restore_into(disk_path(file).string(), target, progress);
+        restore_into(paths::to_system(file).string(), target, progress);
     } catch (const fs::filesystem_error& error) {
         raise_system_failure(error.code().value(),
                              "Der Ordner " + in_quotes(folder) + " kann nicht angelegt werden");

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <unistd.h>
-
 #include <string>
 #include <string_view>
 
@@ -14,7 +12,7 @@ namespace cvdeveloper::standalone {
 // nothing where it is none. Goes from the terminal with its last owner.
 class Progress final : public LibraryObject {
   public:
-    explicit Progress(int terminal = STDERR_FILENO) : bar_(terminal) {}
+    explicit Progress(int terminal = standard_error) : bar_(terminal) {}
 
     std::string title() { return title_; }
     void set_title(std::string_view title);
@@ -34,6 +32,8 @@ class Progress final : public LibraryObject {
     [[nodiscard]] const InterfaceTable& table() const noexcept override;
 
   private:
+    static constexpr int standard_error = 2;
+
     void draw();
 
     std::string title_;

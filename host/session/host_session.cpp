@@ -8,6 +8,7 @@
 #include "host/errors.h"
 #include "host/rules/address_rule.h"
 #include "host/session/log_on.h"
+#include "platform/paths.h"
 
 namespace cvdeveloper::standalone {
 
@@ -71,7 +72,7 @@ HostSession::HostSession(HostFolder folder, std::unique_ptr<Database> database,
       by_fingerprint_(cached_statements),
       by_text_(cached_statements),
       transactions_(*database_, [this] { attachments_.settle(); }),
-      attachments_(*database_, transactions_, disk_path(folder_.path()) / "Anlagen"),
+      attachments_(*database_, transactions_, paths::to_system(folder_.path()) / "Anlagen"),
       writer_(*database_, table_rules(*database_)),
       numbers_(*database_, folder_.settings().number_digits) {}
 

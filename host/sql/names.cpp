@@ -1,6 +1,7 @@
 #include "host/sql/names.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace cvdeveloper::standalone::sql {
 
@@ -76,11 +77,11 @@ std::size_t hash_name(std::string_view name) noexcept {
     // The bit that tells capitals from small letters is left out for all letters, umlauts included:
     // names that are equal have equal hashes, and others seldom differ in it alone.
     constexpr unsigned char all_but_case = 0xDF;
-    std::size_t hash = 14695981039346656037U;
+    std::uint64_t hash = 14695981039346656037U;
     for (const char c : name) {
         hash = (hash ^ (static_cast<unsigned char>(c) & all_but_case)) * 1099511628211U;
     }
-    return hash;
+    return static_cast<std::size_t>(hash);
 }
 
 std::string with_umlauts(std::string_view name) {

@@ -16,12 +16,30 @@ std::string describe(const Place& place) {
 
 namespace {
 
+// Puts an object's default member in its place. What that raises is no failure to convert, unless
+// there is no such member.
+void take_default_value(Variant& slot, const Place& place) {
+    const auto* held = slot.get_if<ObjectRef>();
+    if (held == nullptr || !*held) {
+        return;
+    }
+    try {
+        slot = ObjectRef(*held)->default_value();
+    } catch (const AutomationError& error) {
+        if (error.number() == static_cast<std::int32_t>(RuntimeError::TypeMismatch)) {
+            raise(RuntimeError::TypeMismatch, describe(place));
+        }
+        throw;
+    }
+}
+
 // Converts unless the slot holds a T already; a failure names operation and argument.
 template <class T, class Convert>
 T& converted(Variant& slot, const Place& place, const Convert& convert) {
     if (auto* held = slot.get_if<T>()) {
         return *held;
     }
+    take_default_value(slot, place);
     try {
         slot = Variant(convert(slot));
     } catch (const AutomationError& error) {

@@ -18,6 +18,7 @@ struct Registry {
     std::mutex mutex;
     std::unordered_map<std::string, ClassFactory> classes;
     std::unordered_map<std::string, ObjectRef> active;
+    SystemClasses system;
     MessageHandler message_handler;
     BlockingHook blocking_hook;
 };
@@ -72,30 +73,49 @@ void clear_registry() {
     active.swap(all.active);
 }
 
+void set_system_classes(SystemClasses classes) {
+    Registry& all = registry();
+    const std::lock_guard lock(all.mutex);
+    all.system = classes;
+}
+
 ObjectRef create_object(std::string_view class_name) {
     Registry& all = registry();
     ClassFactory factory;
+    SystemClasses system;
     {
         const std::lock_guard lock(all.mutex);
+        system = all.system;
         if (const auto found = all.classes.find(lower_case(class_name));
             found != all.classes.end()) {
             factory = found->second;
         }
     }
-    if (!factory) {
+    if (factory) {
+        return factory();
+    }
+    ObjectRef made = system.create == nullptr ? nullptr : system.create(class_name);
+    if (!made) {
         raise(RuntimeError::CannotCreateObject, class_name);
     }
-    return factory();
+    return made;
 }
 
 ObjectRef active_object(std::string_view class_name) {
     Registry& all = registry();
-    const std::lock_guard lock(all.mutex);
-    const auto found = all.active.find(lower_case(class_name));
-    if (found == all.active.end()) {
+    SystemClasses system;
+    {
+        const std::lock_guard lock(all.mutex);
+        if (const auto found = all.active.find(lower_case(class_name)); found != all.active.end()) {
+            return found->second;
+        }
+        system = all.system;
+    }
+    ObjectRef running = system.active == nullptr ? nullptr : system.active(class_name);
+    if (!running) {
         raise(RuntimeError::CannotCreateObject, class_name);
     }
-    return found->second;
+    return running;
 }
 
 void set_message_handler(MessageHandler handler) {

@@ -11,6 +11,12 @@ namespace cvdeveloper {
 
 namespace {
 
+// The object, where the value is one.
+Object* object_in(const Variant& value) {
+    const auto* object = value.get_if<ObjectRef>();
+    return object == nullptr ? nullptr : object->get();
+}
+
 [[noreturn]] void raise_no_value(const Variant& value) {
     raise(value.is<Null>() ? RuntimeError::InvalidUseOfNull : RuntimeError::TypeMismatch);
 }
@@ -45,6 +51,9 @@ std::string to_text(const Variant& value) {
         case VariantType::String:
             return value.get<std::string>();
         default:
+            if (Object* object = object_in(value)) {
+                return to_text(object->default_value());
+            }
             raise_no_value(value);
     }
 }
@@ -63,6 +72,9 @@ std::string joined_text(Variant&& value) {
 bool to_boolean(const Variant& value) {
     if (const auto* flag = value.get_if<bool>()) {
         return *flag;
+    }
+    if (Object* object = object_in(value)) {
+        return to_boolean(object->default_value());
     }
     if (const auto* text = value.get_if<std::string>()) {
         if (const auto flag = regional::parse_boolean(*text)) {
@@ -106,6 +118,9 @@ double to_double(const Variant& value) {
             }
             raise(RuntimeError::TypeMismatch);
         default:
+            if (Object* object = object_in(value)) {
+                return to_double(object->default_value());
+            }
             raise_no_value(value);
     }
 }
@@ -113,6 +128,9 @@ double to_double(const Variant& value) {
 Date to_date(const Variant& value) {
     if (const auto* date = value.get_if<Date>()) {
         return *date;
+    }
+    if (Object* object = object_in(value)) {
+        return to_date(object->default_value());
     }
     if (const auto* text = value.get_if<std::string>()) {
         if (const auto date = regional::parse_date(*text)) {

@@ -1,6 +1,8 @@
 #include "cvdeveloper/automation/idl.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <stdexcept>
 #include <string_view>
 
 namespace cvdeveloper {
@@ -50,28 +52,49 @@ std::string type_text(const TypeName& type) {
     return {};
 }
 
-// "optional", with the default where IDL can say it: not for a double or a date.
-std::string optional_text(const Parameter& parameter) {
+// The default as IDL writes it: "" where it cannot say it. A double or a date that is left out
+// arrives as 0, which is the default of each; a variant arrives as missing.
+std::string default_text(const Default& value, ValueType type) {
+    switch (type) {
+        case ValueType::Boolean:
+            if (const auto* flag = value.get_if<bool>()) {
+                return *flag ? "-1" : "0";
+            }
+            return {};
+        case ValueType::Int16:
+        case ValueType::Int32:
+        case ValueType::Enumeration:
+            if (const auto* number = value.get_if<std::int32_t>()) {
+                return std::to_string(*number);
+            }
+            return {};
+        case ValueType::String:
+            if (const auto* text = value.get_if<std::string_view>()) {
+                return quoted(*text);
+            }
+            return {};
+        default:
+            return {};
+    }
+}
+
+std::string optional_text(const Parameter& parameter, ValueType type) {
     if (parameter.default_value.required()) {
         return {};
     }
-    std::string text = ", optional";
-    if (const auto* flag = parameter.default_value.get_if<bool>()) {
-        text += std::string(", defaultvalue(") + (*flag ? "-1" : "0") + ")";
-    } else if (const auto* number = parameter.default_value.get_if<std::int32_t>()) {
-        text += ", defaultvalue(" + std::to_string(*number) + ")";
-    } else if (const auto* string = parameter.default_value.get_if<std::string_view>()) {
-        text += ", defaultvalue(" + quoted(*string) + ")";
-    }
-    return text;
+    // The compiler writes no default of a pointer.
+    const std::string value = parameter.direction == Direction::InOut
+                                  ? std::string()
+                                  : default_text(parameter.default_value, type);
+    return value.empty() ? ", optional" : ", optional, defaultvalue(" + value + ")";
 }
 
 std::string parameter_text(const Operation& operation, std::size_t index) {
     const Parameter& parameter = operation.parameters[index];
     const bool in_out = parameter.direction == Direction::InOut;
-    return std::string(in_out ? "[in, out" : "[in") + optional_text(parameter) + "] " +
-           type_text(operation.binding.parameter_types[index]) + (in_out ? "* " : " ") +
-           std::string(parameter.name);
+    const TypeName& type = operation.binding.parameter_types[index];
+    return std::string(in_out ? "[in, out" : "[in") + optional_text(parameter, type.type) + "] " +
+           type_text(type) + (in_out ? "* " : " ") + std::string(parameter.name);
 }
 
 std::string_view kind_text(OperationKind kind) {
@@ -103,33 +126,51 @@ std::string operation_text(const Operation& operation, std::size_t slot) {
     return text + ");\n";
 }
 
-std::string class_text(const InterfaceTable& table) {
+const ClassIds& ids_of(const LibraryIds& library, std::string_view class_name) {
+    const auto found = std::ranges::find(library.classes, class_name, &ClassIds::name);
+    if (found == library.classes.end()) {
+        throw std::invalid_argument(std::string(class_name) + " has no ids");
+    }
+    return *found;
+}
+
+std::string uuid_text(Identifier id) {
+    return "uuid(" + std::string(id) + ")";
+}
+
+std::string class_text(const LibraryIds& library, const InterfaceTable& table) {
     const std::string name(table.class_name());
-    std::string text = "    [object, dual, oleautomation, helpstring(" + quoted(table.help()) +
-                       ")]\n    interface _" + name + " : IDispatch {\n";
+    const ClassIds& ids = ids_of(library, name);
+    const std::string help = "helpstring(" + quoted(table.help()) + ")";
+    std::string text = "    [object, " + uuid_text(ids.interface_id) +
+                       ", dual, oleautomation,\n     " + help + "]\n    interface _" + name +
+                       " : IDispatch {\n";
     std::size_t slot = first_slot;
     for (const Operation* operation : table.operations()) {
         text += operation_text(*operation, slot++);
     }
-    return text + "    };\n\n    coclass " + name + " {\n        [default] interface _" + name +
-           ";\n    };\n\n";
+    return text + "    };\n\n    [" + uuid_text(ids.class_id) + ",\n     " + help +
+           "]\n    coclass " + name + " {\n        [default] interface _" + name + ";\n    };\n\n";
 }
 
 }  // namespace
 
-std::string idl_text(std::span<const InterfaceTable* const> classes,
+std::string idl_text(const LibraryIds& library, std::span<const InterfaceTable* const> classes,
                      std::span<const Enumeration> enumerations) {
     std::string text =
         "// Made from the interface tables. The tests compare it; regenerate it with\n"
         "// \"cvdev interface --idl\".\n\n"
-        "[helpstring(\"Corvanta Entwicklungstools\")]\nlibrary CVDeveloper {\n"
-        "    importlib(\"stdole2.tlb\");\n\n";
+        "import \"oaidl.idl\";\n\n[" +
+        uuid_text(library.library_id) + ", version(" + std::string(library.version) +
+        "), helpstring(" + quoted(library.help) + ")]\nlibrary " + std::string(library.name) +
+        " {\n    importlib(\"stdole2.tlb\");\n\n";
     for (const InterfaceTable* table : classes) {
         text += "    interface _" + std::string(table->class_name()) + ";\n";
     }
     text += "\n";
     for (const Enumeration& enumeration : enumerations) {
-        text += "    typedef enum {\n";
+        text += "    typedef [helpstring(" + quoted(enumeration.help) + ")] enum " +
+                std::string(enumeration.name) + " {\n";
         std::string separator;
         for (const EnumerationMember& member : enumeration.members) {
             text += separator + "        " + std::string(member.name) + " = " +
@@ -139,7 +180,7 @@ std::string idl_text(std::span<const InterfaceTable* const> classes,
         text += "\n    } " + std::string(enumeration.name) + ";\n\n";
     }
     for (const InterfaceTable* table : classes) {
-        text += class_text(*table);
+        text += class_text(library, *table);
     }
     text.pop_back();
     return text + "};\n";

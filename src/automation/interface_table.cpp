@@ -1,6 +1,7 @@
 #include "cvdeveloper/automation/interface_table.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 #include <utility>
 
@@ -17,11 +18,11 @@ constexpr char folded(char c) noexcept {
 }  // namespace
 
 std::size_t InterfaceTable::FoldedHash::operator()(std::string_view name) const noexcept {
-    std::size_t hash = 14695981039346656037U;
+    std::uint64_t hash = 14695981039346656037U;
     for (const char c : name) {
         hash = (hash ^ static_cast<unsigned char>(folded(c))) * 1099511628211U;
     }
-    return hash;
+    return static_cast<std::size_t>(hash);
 }
 
 bool InterfaceTable::FoldedEqual::operator()(std::string_view left,

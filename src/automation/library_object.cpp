@@ -100,6 +100,15 @@ Variant LibraryObject::invoke(const Operation& operation, Arguments arguments) {
     return result;
 }
 
+Variant LibraryObject::default_value() {
+    const auto rows = table().operations();
+    if (rows.empty() || rows.front()->id != 0 || rows.front()->kind != OperationKind::Get ||
+        !rows.front()->parameters.empty()) {
+        raise(RuntimeError::TypeMismatch);
+    }
+    return invoke(*rows.front(), {});
+}
+
 Variant LibraryObject::run(const Operation& operation, Variant* slots) {
     for (std::size_t i = 0; i < operation.parameters.size(); ++i) {
         if (slots[i].is<Missing>()) {

@@ -3,6 +3,7 @@
 #include "cvdeveloper/automation/class_registry.h"
 #include "cvdeveloper/automation/error.h"
 #include "platform/clock.h"
+#include "platform/file_operations.h"
 #include "platform/files.h"
 #include "platform/regional.h"
 #include "platform/text.h"

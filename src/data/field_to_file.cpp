@@ -33,7 +33,7 @@ constexpr Operation rows[] = {
     {.id = 100,
      .name = "FieldToFile",
      .kind = OperationKind::Method,
-     .binding = bind<&FieldFiles::FieldToFile>,
+     .binding = bind<&FieldFiles::FieldToFile, write_parameters>,
      .parameters = write_parameters,
      .help = {.what = "Writes a field's long text or bytes to a file. Without a size, or with one "
                       "above the threshold, it is read in pieces of 163840. A field of any other "

@@ -49,7 +49,7 @@ constexpr Operation rows[] = {
     {.id = 21,
      .name = "CV_ParseAndFill",
      .kind = OperationKind::Method,
-     .binding = bind<&UserInterfaceBridge::CV_ParseAndFill>,
+     .binding = bind<&UserInterfaceBridge::CV_ParseAndFill, parse_parameters>,
      .parameters = parse_parameters,
      .help = {.what = "Hands a record set of detail rows to the host, which reads the entered "
                       "texts and fills the value columns.",

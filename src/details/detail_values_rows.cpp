@@ -83,7 +83,7 @@ constexpr Operation rows[] = {
     {.id = 92,
      .name = "Det_SetValue",
      .kind = OperationKind::Method,
-     .binding = bind<&DetailValues::Det_SetValue>,
+     .binding = bind<&DetailValues::Det_SetValue, set_parameters>,
      .parameters = set_parameters,
      .help = {.what = "Writes the detail value of one field kind as text: into the first such row "
                       "of the record, or into a new one. The text is not interpreted; ranges and "
@@ -105,7 +105,7 @@ constexpr Operation rows[] = {
     {.id = 94,
      .name = "Det_SetValueWithEMSK",
      .kind = OperationKind::Method,
-     .binding = bind<&DetailValues::Det_SetValueWithEMSK>,
+     .binding = bind<&DetailValues::Det_SetValueWithEMSK, set_with_mask_parameters>,
      .parameters = set_with_mask_parameters,
      .help = {.what = "Writes a detail value as Det_SetValue does, with the access-control string "
                       "that an entry mask gives the field kind; one that the mask lacks gets an "

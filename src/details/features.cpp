@@ -52,7 +52,7 @@ constexpr Operation rows[] = {
     {.id = 81,
      .name = "Mkm_Switch",
      .kind = OperationKind::Method,
-     .binding = bind<&Features::Mkm_Switch>,
+     .binding = bind<&Features::Mkm_Switch, switch_parameters>,
      .parameters = switch_parameters,
      .help = {.what = "Replaces one feature of a record by another: the first link row found is "
                       "changed. An empty old key adds the new one where it is missing, an empty "

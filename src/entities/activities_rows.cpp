@@ -70,7 +70,7 @@ constexpr Operation rows[] = {
     {.id = 1052,
      .name = "AKT_SetAktArt",
      .kind = OperationKind::Method,
-     .binding = bind<&Activities::AKT_SetAktArt>,
+     .binding = bind<&Activities::AKT_SetAktArt, set_type_parameters>,
      .parameters = set_type_parameters,
      .help = {.what = "Copies the defaults of an activity type into an activity and saves it: done "
                       "flag, priority, kilometres, amount, recurrence; the follow-up date of an "

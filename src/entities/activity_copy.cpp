@@ -48,7 +48,7 @@ constexpr Operation rows[] = {
     {.id = 1055,
      .name = "AKT_Copy",
      .kind = OperationKind::Method,
-     .binding = bind<&ActivityCopy::AKT_Copy>,
+     .binding = bind<&ActivityCopy::AKT_Copy, copy_parameters>,
      .parameters = copy_parameters,
      .help = {.what = "Copies activities with their features, attachments and detail values. "
                       "Parents among them are the copies, others stay. With both dates given, "

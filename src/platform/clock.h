@@ -1,6 +1,6 @@
 #pragma once
 
-#include <ctime>
+#include <chrono>
 
 #include "cvdeveloper/automation/date.h"
 
@@ -9,7 +9,7 @@ namespace cvdeveloper {
 // The present local date and time, to the second, as the runtime's Now.
 Date now();
 // A moment of the system's clock as local time.
-Date local_date(std::time_t moment);
+Date local_date(std::chrono::sys_seconds moment);
 
 // The calendar side of a Date. Day 0 is 1899-12-30.
 struct CalendarDate {

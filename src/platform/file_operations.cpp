@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "cvdeveloper/automation/error.h"
 #include "cvdeveloper/automation/runtime_errors.h"
+#include "platform/code_page.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/wildcards.h"
@@ -96,6 +98,24 @@ void copy_tree(std::string_view from, std::string_view to, bool overwrite) {
     }
 }
 
+void copy_anything(std::string_view from, std::string_view to) {
+    if (is_link(from)) {
+        copy_link(from, to);
+    } else if (folder_exists(from)) {
+        copy_tree(from, to, false);
+    } else {
+        copy_file(from, to, false);
+    }
+}
+
+void remove_anything(std::string_view path) {
+    if (!is_link(path) && folder_exists(path)) {
+        remove_folder(path);
+    } else {
+        remove_file(path);
+    }
+}
+
 }  // namespace
 
 std::vector<std::string> files_named(std::string_view path) {
@@ -149,6 +169,13 @@ void move_folders(std::string_view source, std::string_view target) {
     }
 }
 
+void move(std::string_view from, std::string_view to) {
+    if (!rename(from, to)) {
+        copy_anything(from, to);
+        remove_anything(from);
+    }
+}
+
 void remove_files(std::string_view path) {
     for (const std::string& file : files_named(path)) {
         remove_file(file);
@@ -162,6 +189,15 @@ void remove_folders(std::string_view path) {
     }
     for (const std::string& folder : folders_named(path)) {
         remove_folder(folder);
+    }
+}
+
+bool append_line(std::string_view path, std::string_view line) {
+    try {
+        OutputFile(path, OutputFile::Mode::Append).write(to_code_page(line) + "\r\n");
+        return true;
+    } catch (const AutomationError&) {
+        return false;
     }
 }
 

@@ -18,8 +18,14 @@ void copy_files(std::string_view source, std::string_view target, bool overwrite
 void copy_folders(std::string_view source, std::string_view target, bool overwrite);
 void move_files(std::string_view source, std::string_view target);
 void move_folders(std::string_view source, std::string_view target);
+// One file or folder, also to another file system. Error 58 where the target exists.
+void move(std::string_view from, std::string_view to);
 void remove_files(std::string_view path);
 void remove_folders(std::string_view path);
+
+// Adds the line, in the system's code page, and CR LF in one piece, so that lines of several
+// processes do not mix; makes the file where it is missing. False where that failed.
+bool append_line(std::string_view path, std::string_view line);
 
 // Of all files in the folder and below, through no link.
 double total_size(std::string_view folder);

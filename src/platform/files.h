@@ -39,8 +39,10 @@ void copy_file(std::string_view from, std::string_view to, bool overwrite);
 // The link itself.
 void copy_link(std::string_view from, std::string_view to);
 bool is_link(std::string_view path);
-// Also to another file system. Error 58 where the target exists.
-void move(std::string_view from, std::string_view to);
+// By its name, or on Windows by its attribute.
+bool is_hidden(std::string_view path);
+// False where the target is on another file system. Error 58 where there is one already.
+bool rename(std::string_view from, std::string_view to);
 void remove_file(std::string_view path);
 // With all that is in it; links in it go, what they lead to stays.
 void remove_folder(std::string_view path);
@@ -48,14 +50,19 @@ void remove_folder(std::string_view path);
 bool is_inside(std::string_view inner, std::string_view outer);
 
 std::string read_text(std::string_view path);
-// Adds the line and CR LF in one piece, so that lines of several processes do not mix; makes the
-// file where it is missing. False where that failed.
-bool append_line(std::string_view path, std::string_view line);
 
-// TMPDIR where it names a folder, else a folder of the user's own that nobody else may enter.
+// TMPDIR where it names a folder, else a folder of the user's own that nobody else may enter; on
+// Windows the system's own.
 std::string temp_folder();
+// A new folder there, which only the user may enter; its name begins so.
+std::string new_temp_folder(std::string_view name);
 
-// A file open for writing. What is written is in the file at once.
+// Nobody but the user may use the file or folder from here on, nor what is made in the folder. A
+// file system without rights leaves everything as it is.
+void restrict_to_owner(std::string_view path);
+
+// A file open for writing. What is written is in the file at once; what is appended goes to its
+// end in one piece, whoever else writes.
 class OutputFile {
   public:
     enum class Mode : std::uint8_t { CreateNew, Overwrite, Append };
@@ -69,7 +76,7 @@ class OutputFile {
 
   private:
     std::string path_;
-    int descriptor_;
+    std::intptr_t handle_;  // the system's
 };
 
 }  // namespace cvdeveloper::files

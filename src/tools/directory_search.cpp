@@ -10,11 +10,10 @@ namespace {
 constexpr std::int32_t with_hidden = 2;
 constexpr std::int32_t with_folders = 16;
 
-bool is_wanted(std::string_view name, files::Kind kind, std::int32_t attributes) {
-    const bool hidden = name.starts_with('.');
+bool is_wanted(std::string_view path, files::Kind kind, std::int32_t attributes) {
     return kind != files::Kind::Nothing &&
            (kind == files::Kind::File || (attributes & with_folders) != 0) &&
-           (!hidden || (attributes & with_hidden) != 0);
+           ((attributes & with_hidden) != 0 || !files::is_hidden(path));
 }
 
 }  // namespace
@@ -26,7 +25,7 @@ void DirectorySearch::start(std::string_view path, std::int32_t attributes) {
     const std::string_view pattern = parts.name.empty() ? "*" : parts.name;
     const std::string_view folder = parts.folder.empty() ? "." : parts.folder;
     if (!has_wildcards(pattern)) {
-        if (is_wanted(pattern, files::kind_of(path), attributes)) {
+        if (is_wanted(path, files::kind_of(path), attributes)) {
             names_.emplace_back(pattern);
         }
         return;
@@ -43,8 +42,8 @@ void DirectorySearch::start(std::string_view path, std::int32_t attributes) {
         }
     }
     for (files::Entry& entry : files::entries(folder)) {
-        if (is_wanted(entry.name, entry.kind, attributes) &&
-            matches_wildcards(entry.name, pattern)) {
+        if (matches_wildcards(entry.name, pattern) &&
+            is_wanted(paths::join(parts.folder, entry.name), entry.kind, attributes)) {
             names_.push_back(std::move(entry.name));
         }
     }

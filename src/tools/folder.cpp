@@ -3,6 +3,7 @@
 #include "cvdeveloper/automation/binding.h"
 #include "cvdeveloper/automation/conversions.h"
 #include "cvdeveloper/automation/runtime_errors.h"
+#include "platform/code_page.h"
 #include "platform/file_operations.h"
 #include "platform/files.h"
 #include "platform/paths.h"
@@ -100,7 +101,7 @@ Date File::DateLastModified() const {
 Ref<TextStream> File::OpenAsTextStream(std::int32_t lngMode) const {
     switch (lngMode) {
         case 1:
-            return make_object<TextStream>(files::read_text(path_));
+            return make_object<TextStream>(from_code_page(files::read_text(path_)));
         case 2:
             return make_object<TextStream>(
                 std::make_unique<files::OutputFile>(path_, files::OutputFile::Mode::Overwrite));

@@ -4,6 +4,7 @@
 
 #include "cvdeveloper/automation/binding.h"
 #include "cvdeveloper/automation/runtime_errors.h"
+#include "platform/code_page.h"
 #include "platform/files.h"
 #include "platform/text.h"
 #include "platform/utf8.h"
@@ -167,7 +168,7 @@ TextStream::~TextStream() = default;
 
 void TextStream::Write(std::string_view strText) {
     check_writing();
-    output_->write(strText);
+    output_->write(to_code_page(strText));
     count(strText);
 }
 

@@ -44,7 +44,7 @@ constexpr Operation rows[] = {
     {.id = 7,
      .name = "MoveDate",
      .kind = OperationKind::Method,
-     .binding = bind<&clsTools::MoveDate>,
+     .binding = bind<&clsTools::MoveDate, move_parameters>,
      .parameters = move_parameters,
      .help = {.what = "Carries a date over to a new start: the calendar days from datRefDate to "
                       "varDate are walked in working days from datStartDate on. The start itself "
@@ -59,7 +59,7 @@ constexpr Operation rows[] = {
     {.id = 8,
      .name = "IsArbeitstag",
      .kind = OperationKind::Method,
-     .binding = bind<&clsTools::IsArbeitstag>,
+     .binding = bind<&clsTools::IsArbeitstag, working_day_parameters>,
      .parameters = working_day_parameters,
      .help = {.what = "Whether a day is a working day. Saturdays and Sundays go by their flags "
                       "alone; from Monday to Friday a holiday would count, but IsFeiertag never "

@@ -61,7 +61,7 @@ constexpr Operation rows[] = {
     {.id = 11,
      .name = "GetSinglePlatzhalter",
      .kind = OperationKind::Method,
-     .binding = bind<&clsTools::GetSinglePlatzhalter>,
+     .binding = bind<&clsTools::GetSinglePlatzhalter, placeholder_parameters>,
      .parameters = placeholder_parameters,
      .help = {.what = "The value of one placeholder: JETZT is date and time, HEUTE the short date, "
                       "anything else is asked of the running application.",

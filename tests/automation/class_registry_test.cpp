@@ -59,11 +59,5 @@ TEST_F(ClassRegistry, MessagesGoToTheHandler) {
     EXPECT_EQ(shown, std::vector<std::string>{"Pfadangabe fehlt."});
 }
 
-TEST_F(ClassRegistry, MessagesGoToStandardErrorWithoutAHandler) {
-    testing::internal::CaptureStderr();
-    show_message("Pfadangabe fehlt.");
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Pfadangabe fehlt.\n");
-}
-
 }  // namespace
 }  // namespace cvdeveloper

@@ -113,6 +113,24 @@ TEST(Dispatch, ConvertsArgumentsToTheDeclaredTypes) {
     EXPECT_EQ(sample->call("Join", 1.5, true), Variant("1,5|Wahr"));
 }
 
+class Price final : public LibraryObject {
+  public:
+    std::int32_t Value() { return 12; }
+    [[nodiscard]] const InterfaceTable& table() const noexcept override {
+        static constexpr Operation members[] = {
+            {0, "Value", OperationKind::Get, bind<&Price::Value>, {}, {"Tells."}}};
+        static const InterfaceTable all("Price", "A value.", {{"price", "Everything.", members}});
+        return all;
+    }
+};
+
+TEST(Dispatch, TakesTheDefaultMemberOfAnObjectThatIsGivenForAPlainValue) {
+    const auto sample = make_object<Sample>();
+    EXPECT_EQ(sample->call("Join", ObjectRef(make_object<Price>()), "b"), Variant("12|b"));
+    expect_error(13, "", "Typen unverträglich (Join, Argument strLeft)",
+                 [&] { sample->call("Join", ObjectRef(sample), "b"); });
+}
+
 TEST(Dispatch, PlacesNamedArgumentsWithoutRegardToCase) {
     const auto sample = make_object<Sample>();
     std::array<Variant, 2> values{"r", "l"};

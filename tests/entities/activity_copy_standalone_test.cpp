@@ -11,6 +11,7 @@
 #include "platform/clock.h"
 #include "support/expect_error.h"
 #include "support/standalone_application.h"
+#include "support/temp_setting.h"
 
 namespace cvdeveloper {
 namespace {
@@ -19,7 +20,7 @@ constexpr Date reference{46'027};  // Monday 2026-01-05, which the template's da
 constexpr Date start{46'086};      // Thursday 2026-03-05
 
 std::string content_of(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(paths::to_system(path), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
@@ -169,13 +170,13 @@ TEST_F(CopyTemplateTest, FeaturesDetailsAndLinksComeAlong) {
 
 class CopyAttachmentsTest : public CopyTest {
   protected:
-    CopyAttachmentsTest() { setenv("TMPDIR", folder.path().c_str(), 1); }
-    ~CopyAttachmentsTest() override { unsetenv("TMPDIR"); }
-
     std::string write(const std::string& name, const std::string& content) const {
-        std::ofstream(folder.path(name), std::ios::binary) << content;
+        std::ofstream(paths::to_system(folder.path(name)), std::ios::binary) << content;
         return folder.path(name);
     }
+
+  private:
+    const TempSetting setting_{folder.path().c_str()};
 };
 
 TEST_F(CopyAttachmentsTest, StoredContentIsCopiedAndOutlivesItsOriginal) {
@@ -228,7 +229,7 @@ TEST_F(CopyAttachmentsTest, LostContentEndsTheCopyAndWhatWasWrittenStays) {
     app->AKT_Merkmal_Add(original, "MERKMAL");
     app->AKT_Blob_Add(original, write("a.txt", "x"));
     for (const auto& entry :
-         std::filesystem::directory_iterator(folder.path("büro") + "/Anlagen")) {
+         std::filesystem::directory_iterator(paths::to_system(folder.path("büro") + "/Anlagen"))) {
         std::filesystem::remove(entry.path());
     }
     const auto before = count("SELECT DSN FROM AKTMKM");

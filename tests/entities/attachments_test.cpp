@@ -61,7 +61,7 @@ TEST_F(AttachmentsTest, FilenameIsTheHosts) {
 }
 
 TEST_F(AttachmentsTest, SaveAsAtTheEndGivesNothing) {
-    EXPECT_EQ(attachments.BLOB_SaveAs(host.record_set({}), target.path().string()), "");
+    EXPECT_EQ(attachments.BLOB_SaveAs(host.record_set({}), target.text()), "");
     EXPECT_EQ(host.log(), Lines{});
 }
 
@@ -69,7 +69,7 @@ TEST_F(AttachmentsTest, SaveAsMovesStoredContentOutOfTheHostsFile) {
     folder.write("temp1", "Inhalt");
     host.set_opened_file(folder.file("temp1"));
     const RecordSet rs = host.record_set(row(blob("B1", 6, "expose.pdf")));
-    EXPECT_EQ(attachments.BLOB_SaveAs(rs, target.path().string()), target.file("expose.pdf"));
+    EXPECT_EQ(attachments.BLOB_SaveAs(rs, target.text()), target.file("expose.pdf"));
     EXPECT_EQ(host.log(), Lines{"OpenBlobFile B1, K1, 6"});
     EXPECT_EQ(target.read("expose.pdf"), "Inhalt");
     EXPECT_FALSE(std::filesystem::exists(folder.file("temp1")));
@@ -79,8 +79,7 @@ TEST_F(AttachmentsTest, SaveAsAsksForOtherKindsByTheirKind) {
     folder.write("temp1", "Inhalt");
     host.set_opened_file(folder.file("temp1"));
     const RecordSet rs = host.record_set(row(blob("B1", BLOBTYPE_WORD, "expose.doc")));
-    EXPECT_EQ(attachments.BLOB_SaveAs(rs, target.path().string(), "neu.doc"),
-              target.file("neu.doc"));
+    EXPECT_EQ(attachments.BLOB_SaveAs(rs, target.text(), "neu.doc"), target.file("neu.doc"));
     EXPECT_EQ(host.log(), Lines{"OpenBlobFile B1, K1, 1"});
 }
 
@@ -88,7 +87,7 @@ TEST_F(AttachmentsTest, SaveAsCopiesTheFileOfALinkOverAnOldOne) {
     folder.write("a.pdf", "neu");
     target.write("b.pdf", "alt");
     const RecordSet rs = host.record_set(row(blob("B1", 7, folder.file("a.pdf"))));
-    EXPECT_EQ(attachments.BLOB_SaveAs(rs, target.path().string(), "b.pdf"), target.file("b.pdf"));
+    EXPECT_EQ(attachments.BLOB_SaveAs(rs, target.text(), "b.pdf"), target.file("b.pdf"));
     EXPECT_EQ(target.read("b.pdf"), "neu");
     EXPECT_EQ(folder.read("a.pdf"), "neu");
     EXPECT_EQ(host.log(), Lines{});
@@ -105,7 +104,7 @@ TEST_F(AttachmentsTest, SaveAsCopiesTheFolderOfALinkAndGivesThePath) {
 
 TEST_F(AttachmentsTest, SaveAsOfALinkThatLeadsNowhereWritesNothing) {
     const RecordSet rs = host.record_set(row(blob("B1", 7, folder.file("weg.pdf"))));
-    EXPECT_EQ(attachments.BLOB_SaveAs(rs, target.path().string(), "b.pdf"), "");
+    EXPECT_EQ(attachments.BLOB_SaveAs(rs, target.text(), "b.pdf"), "");
     EXPECT_TRUE(std::filesystem::is_empty(target.path()));
 }
 

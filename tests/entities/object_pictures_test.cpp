@@ -82,7 +82,7 @@ class PictureFilesTest : public ObjectPicturesTest {
     void make_picture_folder() const { std::filesystem::create_directory(folder.file("pic.obj")); }
 
     TemporaryFolder folder;
-    Ref<Application> connected = host.connected(folder.path().string());
+    Ref<Application> connected = host.connected(folder.text());
     LogFile log_file_of_files{*connected};
     ObjectPictures files{session_of(*connected)};
 };
@@ -114,14 +114,14 @@ TEST_F(PictureFilesTest, GetFindsThePictureWhateverItsCaptionExtensionAndCase) {
     folder.write("pic.obj/OB1234-Bild33#x.png", "");
     folder.write("pic.obj/ob1234-bild3#irgendwas.png", "");
     EXPECT_EQ(files.OBJ_Bild_Get(object("OB1234"), 3),
-              folder.path().string() + "\\pic.obj\\ob1234-bild3#irgendwas.png");
+              folder.text() + "\\pic.obj\\ob1234-bild3#irgendwas.png");
 }
 
 TEST_F(PictureFilesTest, GetFindsNamesWithUmlauts) {
     make_picture_folder();
     folder.write("pic.obj/STRASSENBÄUME-kurz#.jpg", "");
     EXPECT_EQ(files.OBJ_Bild_Get(object("Strassenbäume"), 0),
-              folder.path().string() + "\\pic.obj\\STRASSENBÄUME-kurz#.jpg");
+              folder.text() + "\\pic.obj\\STRASSENBÄUME-kurz#.jpg");
 }
 
 TEST_F(PictureFilesTest, GetPassesOverFoldersAndOtherFiles) {
@@ -136,7 +136,7 @@ TEST_F(PictureFilesTest, GetLooksIntoTheFolderOfAStemThatNamesOne) {
     std::filesystem::create_directory(folder.file("pic.obj/haus"));
     folder.write("pic.obj/haus/OB1-Bild1#x.jpg", "");
     EXPECT_EQ(files.OBJ_Bild_Get(object("haus\\OB1"), 1),
-              folder.path().string() + "\\pic.obj\\haus\\OB1-Bild1#x.jpg");
+              folder.text() + "\\pic.obj\\haus\\OB1-Bild1#x.jpg");
 }
 
 TEST_F(PictureFilesTest, GetWithoutThePictureFolderIsPathNotFound) {

@@ -1,6 +1,9 @@
 #include "host/host_test.h"
 
+#include <atomic>
+
 #include "cvdeveloper/host/services.h"
+#include "host/platform/process.h"
 
 namespace cvdeveloper::standalone::testing {
 
@@ -9,13 +12,21 @@ std::filesystem::path folder_in_memory() {
     return std::filesystem::is_directory(memory) ? memory : std::filesystem::temp_directory_path();
 }
 
+TemporaryFolder::TemporaryFolder(const std::filesystem::path& where) {
+    static std::atomic<int> number = 0;
+    do {
+        path_ =
+            where / ("cvhost-" + std::to_string(process_number()) + "-" + std::to_string(++number));
+    } while (!std::filesystem::create_directory(path_));
+}
+
 std::filesystem::path prepared_folder(bool sample) {
     static const TemporaryFolder folder;
-    const std::filesystem::path path = folder.path(sample ? "muster" : "leer");
-    if (!std::filesystem::exists(path)) {
-        create_folder(path.string(), {.sample = sample});
+    const std::string path = folder.path(sample ? "muster" : "leer");
+    if (!files::folder_exists(path)) {
+        create_folder(path, {.sample = sample});
     }
-    return path;
+    return paths::to_system(path);
 }
 
 std::string HostTest::add_activity(std::string_view subject) {

@@ -11,6 +11,8 @@
 #include "cvdeveloper/automation/object.h"
 #include "host/folder/create_folder.h"
 #include "host/session/connector.h"
+#include "platform/files.h"
+#include "platform/paths.h"
 
 namespace cvdeveloper::standalone::testing {
 
@@ -21,11 +23,9 @@ std::filesystem::path folder_in_memory();
 // A folder that goes with the test.
 class TemporaryFolder {
   public:
-    explicit TemporaryFolder(
-        const std::filesystem::path& where = std::filesystem::temp_directory_path()) {
-        std::string name = (where / "cvhost-XXXXXX").string();
-        path_ = mkdtemp(name.data());
-    }
+    TemporaryFolder() : path_(paths::to_system(files::new_temp_folder("cvhost"))) {}
+    // In a folder that has what a test needs, such as memory or room for little.
+    explicit TemporaryFolder(const std::filesystem::path& where);
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder() {
@@ -34,11 +34,11 @@ class TemporaryFolder {
     }
 
     [[nodiscard]] std::string path(std::string_view name = {}) const {
-        return (std::filesystem::path(path_) / name).string();
+        return paths::to_text(path_ / paths::to_system(name));
     }
 
   private:
-    std::string path_;
+    std::filesystem::path path_;
 };
 
 // A host folder made once for all tests of a program; each test works on a copy of it.
@@ -47,7 +47,7 @@ std::filesystem::path prepared_folder(bool sample);
 class HostTest : public ::testing::Test {
   protected:
     explicit HostTest(bool sample = false) {
-        std::filesystem::copy(prepared_folder(sample), host_path(),
+        std::filesystem::copy(prepared_folder(sample), paths::to_system(host_path()),
                               std::filesystem::copy_options::recursive);
         connector = log_on();
     }

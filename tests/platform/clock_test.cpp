@@ -66,8 +66,7 @@ TEST(Clock, WeekdaysCountFromSunday) {
 TEST(Clock, NowIsTheLocalTimeToTheSecond) {
     const std::time_t before = std::time(nullptr);
     const Date date = now();
-    std::tm local{};
-    localtime_r(&before, &local);
+    const std::tm local = *std::localtime(&before);
     const Date expected = make_date({local.tm_year + 1900, local.tm_mon + 1, local.tm_mday},
                                     {local.tm_hour, local.tm_min, local.tm_sec});
     EXPECT_LT(std::abs(date.days - expected.days) * 86400, 5);

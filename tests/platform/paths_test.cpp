@@ -18,7 +18,9 @@ TEST(Paths, BothSeparatorsDivideFolderAndName) {
 TEST(Paths, JoiningGoesOnInTheFoldersOwnWay) {
     EXPECT_EQ(paths::join("C:\\Logs", "a"), "C:\\Logs\\a");
     EXPECT_EQ(paths::join("/srv", "a"), "/srv/a");
-    EXPECT_EQ(paths::join("/srv\\x", "a"), "/srv\\x/a");
+    const auto own = static_cast<char>(std::filesystem::path::preferred_separator);
+    EXPECT_EQ(paths::join("/srv\\x", "a"), std::string("/srv\\x") + own + "a");
+    EXPECT_EQ(paths::join("srv", "a"), std::string("srv") + own + "a");
     EXPECT_EQ(paths::join("/srv/", "a"), "/srv/a");
     EXPECT_EQ(paths::join("", "a"), "a");
 }
@@ -27,6 +29,7 @@ TEST(Paths, SeparatorsAtTheEndGoButARootStays) {
     EXPECT_EQ(paths::without_end_separators("/srv/x//"), "/srv/x");
     EXPECT_EQ(paths::without_end_separators("C:\\x\\"), "C:\\x");
     EXPECT_EQ(paths::without_end_separators("/"), "/");
+    EXPECT_EQ(paths::without_end_separators("C:\\"), "C:\\");
 }
 
 TEST(Wildcards, NamesMatchWithoutRegardToCase) {

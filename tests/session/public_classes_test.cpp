@@ -9,6 +9,7 @@
 #include <tuple>
 #include <utility>
 
+#include "cvdeveloper/automation/conversions.h"
 #include "cvdeveloper/enumerations.h"
 #include "platform/text.h"
 
@@ -28,6 +29,29 @@ void for_each_row(const Check& check) {
             check(*table, *row);
         }
     }
+}
+
+TEST(PublicClasses, NativeCallersPassByReferenceWhatTheRowSays) {
+    for_each_row([](const InterfaceTable&, const Operation& row) {
+        for (std::size_t i = 0; i < row.parameters.size(); ++i) {
+            EXPECT_EQ(((row.binding.by_reference >> i) & 1U) != 0,
+                      row.parameters[i].direction == Direction::InOut)
+                << row.parameters[i].name << ": the row's bind names its parameters";
+        }
+    });
+}
+
+// The type library says no default of these: a native caller's 0 must be what the row means.
+TEST(PublicClasses, DoublesAndDatesThatAreLeftOutAreZero) {
+    for_each_row([](const InterfaceTable&, const Operation& row) {
+        for (std::size_t i = 0; i < row.parameters.size(); ++i) {
+            const ValueType type = row.binding.parameter_types[i].type;
+            const Default& value = row.parameters[i].default_value;
+            if (!value.required() && (type == ValueType::Double || type == ValueType::Date)) {
+                EXPECT_EQ(to_double(value.value()), 0) << row.parameters[i].name;
+            }
+        }
+    });
 }
 
 TEST(PublicClasses, EveryOperationIsExplained) {

@@ -3,6 +3,7 @@
 #include <regex>
 
 #include "cvdeveloper/automation/class_registry.h"
+#include "platform/files.h"
 #include "platform/text.h"
 
 namespace cvdeveloper {
@@ -14,7 +15,7 @@ class StandardUtilDouble final : public Object, public host::StandardUtil {
   public:
     Variant invoke(std::string_view, InvokeKind, Arguments) override { return {}; }
     [[nodiscard]] std::string_view class_name() const noexcept override { return "cUtil"; }
-    std::string GetTempPath() override { return std::filesystem::temp_directory_path(); }
+    std::string GetTempPath() override { return files::temp_folder(); }
     void CutRight(std::string& text, std::string_view end) override {
         if (text.ends_with(end)) {
             text.resize(text.size() - end.size());
@@ -26,7 +27,7 @@ class StandardUtilDouble final : public Object, public host::StandardUtil {
 
 LogFile::LogFile(Application& app) {
     register_class("clqexStdC10.cUtil", [] { return make_object<StandardUtilDouble>(); });
-    app.put_LogPath(folder_.path().string());
+    app.put_LogPath(folder_.text());
 }
 
 LogFile::~LogFile() {

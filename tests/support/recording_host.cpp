@@ -7,6 +7,7 @@
 #include "cvdeveloper/automation/conversions.h"
 #include "cvdeveloper/automation/error.h"
 #include "cvdeveloper/automation/runtime_errors.h"
+#include "platform/files.h"
 
 namespace cvdeveloper {
 
@@ -207,7 +208,7 @@ namespace {
 // Keeps the log of empty results out of the file system's root.
 Ref<Application> new_application() {
     auto app = make_object<Application>();
-    app->put_LogPath(std::filesystem::temp_directory_path().string());
+    app->put_LogPath(files::temp_folder());
     return app;
 }
 

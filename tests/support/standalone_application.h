@@ -13,7 +13,8 @@ namespace cvdeveloper {
 class StandaloneApplicationTest : public testing::Test {
   protected:
     explicit StandaloneApplicationTest(bool sample = false) {
-        std::filesystem::copy(standalone::testing::prepared_folder(sample), folder.path("büro"),
+        std::filesystem::copy(standalone::testing::prepared_folder(sample),
+                              paths::to_system(folder.path("büro")),
                               std::filesystem::copy_options::recursive);
         standalone::register_standalone_host();
         app->put_LogPath(folder.path());

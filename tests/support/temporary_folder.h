@@ -5,17 +5,15 @@
 #include <iterator>
 #include <string>
 
-#include <stdlib.h>
+#include "platform/files.h"
+#include "platform/paths.h"
 
 namespace cvdeveloper {
 
 // A folder of its own for one test; goes with the test.
 class TemporaryFolder {
   public:
-    TemporaryFolder() {
-        std::string name = std::filesystem::temp_directory_path() / "cvdeveloper-test-XXXXXX";
-        path_ = mkdtemp(name.data());
-    }
+    TemporaryFolder() : path_(paths::to_system(files::new_temp_folder("cvdeveloper-test"))) {}
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder() {
@@ -24,20 +22,27 @@ class TemporaryFolder {
     }
 
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
-    [[nodiscard]] std::string file(const std::string& name) const { return path_ / name; }
-    [[nodiscard]] std::string read(const std::string& name) const {
-        std::ifstream stream(path_ / name, std::ios::binary);
+    [[nodiscard]] std::string text() const { return paths::to_text(path_); }
+    [[nodiscard]] std::string file(std::string_view name) const {
+        return paths::to_text(system_file(name));
+    }
+    [[nodiscard]] std::string read(std::string_view name) const {
+        std::ifstream stream(system_file(name), std::ios::binary);
         return {std::istreambuf_iterator<char>(stream), {}};
     }
-    void write(const std::string& name, const std::string& content) const {
-        std::filesystem::create_directories((path_ / name).parent_path());
-        std::ofstream(path_ / name, std::ios::binary) << content;
+    void write(std::string_view name, std::string_view content) const {
+        std::filesystem::create_directories(system_file(name).parent_path());
+        std::ofstream(system_file(name), std::ios::binary) << content;
     }
-    [[nodiscard]] bool has(const std::string& name) const {
-        return std::filesystem::exists(path_ / name);
+    [[nodiscard]] bool has(std::string_view name) const {
+        return std::filesystem::exists(system_file(name));
     }
 
   private:
+    [[nodiscard]] std::filesystem::path system_file(std::string_view name) const {
+        return path_ / paths::to_system(name);
+    }
+
     std::filesystem::path path_;
 };
 

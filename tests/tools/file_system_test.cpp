@@ -5,6 +5,7 @@
 #include <set>
 
 #include "platform/clock.h"
+#include "platform/code_page.h"
 #include "support/expect_error.h"
 #include "support/temporary_folder.h"
 
@@ -50,7 +51,7 @@ TEST_F(FileSystem, AStreamForWritingCountsLinesAndColumns) {
     stream->WriteBlankLines(2);
     EXPECT_EQ(stream->Line(), 4);
     EXPECT_EQ(stream->Column(), 1);
-    EXPECT_EQ(folder.read("a.txt"), "Büro\r\n\r\n\r\n");
+    EXPECT_EQ(from_code_page(folder.read("a.txt")), "Büro\r\n\r\n\r\n");
     expect_error_number(5, [&] { stream->WriteBlankLines(-1); });
     expect_error(54, "", "Dateimodus falsch", [&] { stream->ReadLine(); });
     expect_error_number(54, [&] { return stream->AtEndOfStream(); });
@@ -66,7 +67,7 @@ TEST_F(FileSystem, AClosedStreamIsNoObjectAnyMore) {
 }
 
 TEST_F(FileSystem, AStreamForReadingGoesThroughTheText) {
-    folder.write("a.txt", "eins\r\nzwei\n\nBüro");
+    folder.write("a.txt", to_code_page("eins\r\nzwei\n\nBüro"));
     const Ref<TextStream> stream = make_object<File>(folder.file("a.txt"))->OpenAsTextStream(1);
     EXPECT_EQ(stream->Read(2), "ei");
     EXPECT_EQ(stream->Column(), 3);
@@ -102,12 +103,12 @@ TEST_F(FileSystem, AFileOpensForWritingAnewAndForAppending) {
 }
 
 TEST_F(FileSystem, CreateFolderGivesTheFolderWithThePathAsComposed) {
-    const std::string path = folder.path().string() + "\\neu";
+    const std::string path = folder.text() + "\\neu";
     const Ref<Folder> made = files->CreateFolder(path + "\\");
     EXPECT_TRUE(folder.has("neu"));
     EXPECT_EQ(made->Path(), path);
     EXPECT_EQ(made->Name(), "neu");
-    EXPECT_EQ(made->ParentFolder()->Path(), folder.path().string());
+    EXPECT_EQ(made->ParentFolder()->Path(), folder.text());
     EXPECT_NEAR(made->DateCreated().days, now().days, 1.0 / 1440);
     EXPECT_NEAR(made->DateLastModified().days, now().days, 1.0 / 1440);
     expect_error_number(58, [&] { files->CreateFolder(path); });
@@ -118,7 +119,7 @@ TEST_F(FileSystem, AFolderShowsItsFilesAndFolders) {
     folder.write("a.txt", "123");
     folder.write("b.txt", "4567");
     folder.write("deep/c.txt", "8");
-    const Ref<Folder> top = make_object<Folder>(folder.path().string());
+    const Ref<Folder> top = make_object<Folder>(folder.text());
     EXPECT_EQ(top->Size(), 8);
     EXPECT_EQ(top->Files()->Count(), 2);
     EXPECT_EQ(top->SubFolders()->Count(), 1);
@@ -127,7 +128,7 @@ TEST_F(FileSystem, AFolderShowsItsFilesAndFolders) {
     EXPECT_EQ(file->Name(), "b.txt");
     EXPECT_EQ(file->Path(), folder.file("b.txt"));
     EXPECT_EQ(file->Size(), 4);
-    EXPECT_EQ(file->ParentFolder()->Path(), folder.path().string());
+    EXPECT_EQ(file->ParentFolder()->Path(), folder.text());
     std::set<std::string> names;
     for (std::int32_t i = 1; i <= 2; ++i) {
         names.insert(top->Files()->Item(i)->Name());
@@ -149,9 +150,9 @@ TEST_F(FileSystem, ARootHasNoParent) {
 TEST_F(FileSystem, ExistenceTellsFilesFromFolders) {
     folder.write("a.txt", "");
     EXPECT_TRUE(files->FileExists(folder.file("a.txt")));
-    EXPECT_FALSE(files->FileExists(folder.path().string()));
+    EXPECT_FALSE(files->FileExists(folder.text()));
     EXPECT_FALSE(files->FileExists(folder.file("*.txt")));
-    EXPECT_TRUE(files->FolderExists(folder.path().string()));
+    EXPECT_TRUE(files->FolderExists(folder.text()));
     EXPECT_FALSE(files->FolderExists(folder.file("a.txt")));
     EXPECT_FALSE(files->FolderExists(""));
 }

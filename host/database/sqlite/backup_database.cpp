@@ -8,9 +8,9 @@
 #include <memory>
 
 #include "cvdeveloper/automation/class_registry.h"
-#include "host/attachments/open_file.h"
 #include "host/database/sqlite/system_error.h"
 #include "host/errors.h"
+#include "host/platform/open_file.h"
 
 namespace cvdeveloper::standalone::sqlite {
 

@@ -10,6 +10,10 @@
 
 #include "cvdeveloper/automation/interface_table.h"
 #include "cvdeveloper/automation/library_object.h"
+#include "cvdeveloper/automation/signature.h"
+#ifdef _WIN32
+#include "cvdeveloper/automation/native_entry.h"
+#endif
 
 // bind<&Activities::AKT_Create>: the row's side of a C++ function. The types of arguments and
 // result follow from its signature; conversions stand here once, not per operation.
@@ -192,30 +196,10 @@ Variant to_variant(R&& value) {
     }
 }
 
-// The object or topic that a bound member runs on. A topic is made on the spot from the session
-// that the object holds; session_of is found where the topic's session is declared.
-template <class T, class Self>
-decltype(auto) target(Self& self) {
-    if constexpr (std::derived_from<T, Object>) {
-        return static_cast<T&>(self);
-    } else {
-        return T(session_of(self));
-    }
-}
-
-template <class T>
-constexpr bool changes =
-    std::is_lvalue_reference_v<T> && !std::is_const_v<std::remove_reference_t<T>>;
-
 template <class R, class... A>
 struct Signature {
     static constexpr std::array<TypeName, sizeof...(A)> types{Argument<A>::type...};
-    static constexpr std::uint32_t writes = [] {
-        std::uint32_t bits = 0;
-        std::uint32_t bit = 1;
-        ((bits |= changes<A> ? bit : 0U, bit <<= 1U), ...);
-        return bits;
-    }();
+    static constexpr std::uint32_t writes = changed_arguments<A...>;
 
     template <class Invoke, std::size_t... I>
     static void run(const Operation& operation, Variant* slots, Variant& result,
@@ -230,7 +214,16 @@ struct Signature {
     }
 };
 
-template <auto Function, class T, class R, class... A>
+template <auto Function, std::uint32_t by_reference, class T, class R, class... A>
+constexpr Binding::Native native_side() {
+#ifdef _WIN32
+    return native::native_entry<Function, by_reference, T, R, A...>;
+#else
+    return nullptr;
+#endif
+}
+
+template <auto Function, std::uint32_t by_reference, class T, class R, class... A>
 struct Member {
     static void call(const Operation& operation, Object& self, Variant* slots, Variant& result) {
         Signature<R, A...>::run(
@@ -244,19 +237,27 @@ struct Member {
     static constexpr Binding row{.call = &call,
                                  .parameter_types = Signature<R, A...>::types,
                                  .result = Result<R>::type,
-                                 .writes = Signature<R, A...>::writes};
+                                 .writes = Signature<R, A...>::writes,
+                                 .by_reference = by_reference,
+                                 .native = native_side<Function, by_reference, T, R, A...>()};
 };
 
-template <auto Function, class F>
+template <auto Function, class F, const auto&... parameters>
 struct Make;
-template <auto Function, class T, class R, class... A>
-struct Make<Function, R (T::*)(A...)> : Member<Function, T, R, A...> {};
-template <auto Function, class T, class R, class... A>
-struct Make<Function, R (T::*)(A...) const> : Member<Function, T, R, A...> {};
+template <auto Function, class T, class R, class... A, const auto&... parameters>
+struct Make<Function, R (T::*)(A...), parameters...>
+    : Member<Function, (changed_arguments<A...> | ... | passed_by_reference(parameters)), T, R,
+             A...> {};
+template <auto Function, class T, class R, class... A, const auto&... parameters>
+struct Make<Function, R (T::*)(A...) const, parameters...>
+    : Member<Function, (changed_arguments<A...> | ... | passed_by_reference(parameters)), T, R,
+             A...> {};
 
 }  // namespace binding
 
-template <auto Function>
-constexpr Binding bind = binding::Make<Function, decltype(Function)>::row;
+// A row names its parameters here too where one is passed by reference that the function does not
+// change, as its type does not tell.
+template <auto Function, const auto&... parameters>
+constexpr Binding bind = binding::Make<Function, decltype(Function), parameters...>::row;
 
 }  // namespace cvdeveloper

@@ -20,6 +20,14 @@ void register_class(std::string_view class_name, ClassFactory factory);
 void register_active_object(std::string_view class_name, ObjectRef object);
 void clear_registry();
 
+// Where classes and running objects are looked for that nobody has registered here: the system's
+// own, where it has such. Installed once by a binding; nothing is what is not found.
+struct SystemClasses {
+    ObjectRef (*create)(std::string_view class_name) = nullptr;
+    ObjectRef (*active)(std::string_view class_name) = nullptr;
+};
+void set_system_classes(SystemClasses classes);
+
 // Errors: 429 where the class is unknown. What the factory raises passes through.
 ObjectRef create_object(std::string_view class_name);
 // Errors: 429 where no such object is running.

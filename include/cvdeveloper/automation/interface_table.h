@@ -68,6 +68,9 @@ enum class OperationKind : std::uint8_t { Method, Get, Put };
 
 struct Operation;
 
+// An entry of a vtable, whatever its signature.
+using NativeEntry = void (*)();
+
 // The C++ function behind a row: how to call it with a full list of arguments, and its types.
 struct Binding {
     using Call = void (*)(const Operation& operation, Object& self, Variant* arguments,
@@ -75,7 +78,11 @@ struct Binding {
     Call call = nullptr;
     std::span<const TypeName> parameter_types = {};
     TypeName result = {};
-    std::uint32_t writes = 0;  // bit i: the function may change argument i
+    std::uint32_t writes = 0;        // bit i: the function may change argument i
+    std::uint32_t by_reference = 0;  // bit i: native callers pass argument i by reference
+    // The row's entry in a vtable; on Windows only.
+    using Native = NativeEntry (*)(const Operation& operation);
+    Native native = nullptr;
 };
 
 struct Help {

@@ -13,6 +13,7 @@ class LibraryObject : public Object {
     [[nodiscard]] virtual const InterfaceTable& table() const noexcept = 0;
     [[nodiscard]] std::string_view class_name() const noexcept override;
     Variant invoke(std::string_view member, InvokeKind kind, Arguments arguments) override;
+    Variant default_value() override;  // the property with id 0
 
     // Runs one row of the table: places the arguments, fills in defaults, writes by-reference
     // arguments back on success. Errors: 448, 449, 450 for arguments that do not fit; 13, 6, 94

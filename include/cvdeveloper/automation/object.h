@@ -36,6 +36,10 @@ class Object : public RefCounted {
     // An unknown member is error 438; what the member raises passes through.
     virtual Variant invoke(std::string_view member, InvokeKind kind, Arguments arguments) = 0;
 
+    // What the object stands for where a plain value is asked for: the value of its default member.
+    // Error 13 where it has none.
+    virtual Variant default_value();
+
     // The name users know the object's class by, for messages.
     [[nodiscard]] virtual std::string_view class_name() const noexcept = 0;
 

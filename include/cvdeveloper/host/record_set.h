@@ -101,4 +101,30 @@ struct Result<RecordSet> {
 };
 
 }  // namespace binding
+
+#ifdef _WIN32
+namespace native {
+
+template <>
+struct NativeArgument<const RecordSet&> {
+    using Abi = Interface*;
+    NativeArgument(Abi abi, const Call&, std::size_t) : value(object_in(abi)) {}
+    const RecordSet& get() const { return value; }
+    RecordSet value;
+};
+template <>
+struct NativeArgument<RecordSet&> {
+    using Abi = Interface*;
+    NativeArgument(Abi abi, const Call&, std::size_t) : value(object_in(abi)) {}
+    RecordSet& get() { return value; }
+    void store(Abi& target) const { replace(target, value.object()); }
+    RecordSet value;
+};
+template <>
+struct NativeResult<RecordSet> {
+    using Abi = Interface*;
+    static void store(const RecordSet& value, Abi& target) { target = object_out(value.object()); }
+};
+}  // namespace native
+#endif
 }  // namespace cvdeveloper

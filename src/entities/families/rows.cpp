@@ -216,9 +216,6 @@ constexpr Family AKTART{
 
 namespace {
 
-constexpr std::int32_t first_block = 1000;
-constexpr std::int32_t block_size = 100;
-
 constexpr std::array rows{&AKT,     &OBJ, &PROJEKTE, &ANF,    &AKTEN,    &VERTRAEGE, &AD,
                           &Details, &MKM, &EMSK,     &FldArt, &FldArtOp, &AKTART};
 
@@ -233,6 +230,7 @@ constexpr bool blocks_follow_each_other() {
     return true;
 }
 static_assert(blocks_follow_each_other());
+static_assert(rows.size() == family_count);
 
 }  // namespace
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <span>
@@ -107,6 +108,11 @@ extern const Family EMSK;
 extern const Family FldArt;
 extern const Family FldArtOp;
 extern const Family AKTART;
+
+// Each family has a block of ids; the blocks follow each other.
+inline constexpr std::int32_t first_block = 1000;
+inline constexpr std::int32_t block_size = 100;
+inline constexpr std::size_t family_count = 13;
 
 // In ascending block.
 std::span<const Family* const> all() noexcept;

@@ -4,7 +4,6 @@
 #include <array>
 #include <cerrno>
 
-#include "cvdeveloper/automation/error.h"
 #include "platform/files.h"
 #include "platform/posix/file_errors.h"
 
@@ -62,33 +61,23 @@ std::string read_text(std::string_view path) {
     }
 }
 
-bool append_line(std::string_view path, std::string_view line) {
-    try {
-        std::string text(line);
-        text += "\r\n";
-        OutputFile(path, OutputFile::Mode::Append).write(text);
-        return true;
-    } catch (const AutomationError&) {
-        return false;
-    }
-}
-
 OutputFile::OutputFile(std::string_view path, Mode mode)
     : path_(path),
-      descriptor_(
+      handle_(
           open(native(path).c_str(), O_WRONLY | O_CLOEXEC | flags_of(mode), rights_before_umask)) {
-    if (descriptor_ < 0) {
+    if (handle_ < 0) {
         raise_file_error(errno, path);
     }
 }
 
 OutputFile::~OutputFile() {
-    close(descriptor_);
+    close(static_cast<int>(handle_));
 }
 
 void OutputFile::write(std::string_view text) {
+    const auto descriptor = static_cast<int>(handle_);
     while (!text.empty()) {
-        const ssize_t count = ::write(descriptor_, text.data(), text.size());
+        const ssize_t count = ::write(descriptor, text.data(), text.size());
         if (count >= 0) {
             text.remove_prefix(static_cast<std::size_t>(count));
         } else if (errno != EINTR) {

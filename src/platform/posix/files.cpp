@@ -6,12 +6,14 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
 
 #include "cvdeveloper/automation/runtime_errors.h"
 #include "platform/clock.h"
+#include "platform/paths.h"
 #include "platform/posix/file_errors.h"
 
 namespace cvdeveloper::files {
@@ -33,7 +35,7 @@ void check(const std::error_code& error, std::string_view path) {
 }
 
 Date local_time(const struct statx_timestamp& stamp) {
-    return local_date(stamp.tv_sec);
+    return local_date(std::chrono::sys_seconds(std::chrono::seconds(stamp.tv_sec)));
 }
 
 }  // namespace
@@ -121,7 +123,7 @@ bool is_link(std::string_view path) {
     return fs::is_symlink(native(path), error);
 }
 
-void move(std::string_view from, std::string_view to) {
+bool rename(std::string_view from, std::string_view to) {
     const fs::path source = native(from);
     const fs::path target = native(to);
     std::error_code error;
@@ -130,18 +132,14 @@ void move(std::string_view from, std::string_view to) {
     }
     fs::rename(source, target, error);
     if (error == std::errc::cross_device_link) {
-        fs::copy(source, target, fs::copy_options::recursive | fs::copy_options::copy_symlinks,
-                 error);
-        check(error, to);
-        fs::remove_all(source, error);
-        check(error, from);
-        return;
+        return false;
     }
     // Into itself, or into a folder that is not there.
     if (error == std::errc::invalid_argument) {
         raise(RuntimeError::PermissionDenied, to);
     }
     check(error, fs::exists(fs::symlink_status(source)) ? to : from);
+    return true;
 }
 
 void remove_file(std::string_view path) {
@@ -154,6 +152,10 @@ void remove_folder(std::string_view path) {
     std::error_code error;
     fs::remove_all(native(path), error);
     check(error, path);
+}
+
+bool is_hidden(std::string_view path) {
+    return paths::split(paths::without_end_separators(path)).name.starts_with('.');
 }
 
 bool is_inside(std::string_view inner, std::string_view outer) {
@@ -182,6 +184,22 @@ std::string temp_folder() {
         raise(RuntimeError::PermissionDenied, folder);
     }
     return folder;
+}
+
+std::string new_temp_folder(std::string_view name) {
+    std::string folder = paths::join(temp_folder(), name).append("-XXXXXX");
+    if (mkdtemp(folder.data()) == nullptr) {
+        raise_file_error(errno, folder);
+    }
+    return folder;
+}
+
+void restrict_to_owner(std::string_view path) {
+    constexpr mode_t of_folder = 0700;
+    constexpr mode_t of_file = 0600;
+    if (chmod(native(path).c_str(), folder_exists(path) ? of_folder : of_file) != 0) {
+        raise_file_error(errno, path);
+    }
 }
 
 }  // namespace cvdeveloper::files

@@ -9,6 +9,8 @@
 #include <sstream>
 
 #include "cvdeveloper/automation/conversions.h"
+#include "platform/files.h"
+#include "platform/paths.h"
 
 namespace cvdeveloper::standalone::testing {
 
@@ -30,7 +32,7 @@ std::string sha256_of(const std::string& text) {
 }  // namespace
 
 std::string text_of_file(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(paths::to_system(path), std::ios::binary);
     EXPECT_TRUE(file) << path;
     std::ostringstream text;
     text << file.rdbuf();
@@ -39,8 +41,11 @@ std::string text_of_file(const std::string& path) {
 
 std::set<std::string> stored_files(const std::string& host_folder) {
     std::set<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(host_folder + "/Anlagen")) {
-        names.insert(entry.path().filename().string());
+    for (const files::Entry& entry : files::entries(paths::join(host_folder, "Anlagen"))) {
+        // On Windows a file that is locked stands for the folder.
+        if (entry.name != "belegt.lock") {
+            names.insert(entry.name);
+        }
     }
     return names;
 }

@@ -1,10 +1,7 @@
 #pragma once
 
-#include <sys/types.h>
-
 #include <cstddef>
 #include <cstdint>
-#include <ctime>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,8 +10,8 @@ namespace cvdeveloper::standalone {
 
 // By what the system tells whether a file is still the one that was read.
 struct FileState {
-    dev_t device = 0;
-    ino_t number = 0;
+    std::uint64_t device = 0;
+    std::uint64_t number = 0;
     std::uint64_t size = 0;
     std::int64_t modified = 0;  // nanoseconds since 1970
     std::int64_t changed = 0;   // the same, also of rights and name
@@ -30,7 +27,7 @@ class OpenFile {
         Read,       // an ordinary file; error 53 where there is none, 75 for anything else
         CreateNew,  // for its owner's eyes only
         Append,     // the same, made where it is missing
-        Folder,
+        Folder,     // to be locked or synced
     };
 
     OpenFile(std::string_view path, Mode mode);
@@ -50,7 +47,7 @@ class OpenFile {
     // Everything written on its file system outlives a power failure from here on.
     void sync_file_system();
     // For libraries that read or write by themselves.
-    [[nodiscard]] int descriptor() const noexcept { return descriptor_; }
+    [[nodiscard]] int descriptor() const noexcept { return static_cast<int>(handle_); }
 
     // Locks of the whole file, which end with its owner and with its process. Those without "try"
     // are waited for. False where it is not to be had.
@@ -61,7 +58,7 @@ class OpenFile {
 
   private:
     std::string path_;
-    int descriptor_;
+    std::intptr_t handle_ = -1;  // the system's
 };
 
 }  // namespace cvdeveloper::standalone

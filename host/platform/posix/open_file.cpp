@@ -1,4 +1,4 @@
-#include "host/attachments/open_file.h"
+#include "host/platform/open_file.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -52,12 +52,16 @@ bool lock(int descriptor, int operation) {
     return true;
 }
 
+int descriptor_of(std::intptr_t handle) {
+    return static_cast<int>(handle);
+}
+
 }  // namespace
 
 OpenFile::OpenFile(std::string_view path, Mode mode)
     : path_(path),
-      descriptor_(open(files::native(path).c_str(), flags_of(mode) | O_CLOEXEC, owner_only)) {
-    if (descriptor_ < 0) {
+      handle_(open(files::native(path).c_str(), flags_of(mode) | O_CLOEXEC, owner_only)) {
+    if (descriptor_of(handle_) < 0) {
         if (mode == Mode::Read && (errno == ENOENT || errno == ENOTDIR)) {
             raise(RuntimeError::FileNotFound, path);
         }
@@ -65,20 +69,20 @@ OpenFile::OpenFile(std::string_view path, Mode mode)
     }
     if (mode == Mode::Read) {
         struct stat status {};
-        if (fstat(descriptor_, &status) != 0 || !S_ISREG(status.st_mode)) {
-            close(descriptor_);
+        if (fstat(descriptor_of(handle_), &status) != 0 || !S_ISREG(status.st_mode)) {
+            close(descriptor_of(handle_));
             raise(RuntimeError::PathFileAccess, path);
         }
     }
 }
 
 OpenFile::~OpenFile() {
-    close(descriptor_);
+    close(descriptor_of(handle_));
 }
 
 std::size_t OpenFile::read(std::span<unsigned char> buffer) {
     for (;;) {
-        const ssize_t count = ::read(descriptor_, buffer.data(), buffer.size());
+        const ssize_t count = ::read(descriptor_of(handle_), buffer.data(), buffer.size());
         if (count >= 0) {
             return static_cast<std::size_t>(count);
         }
@@ -90,7 +94,7 @@ std::size_t OpenFile::read(std::span<unsigned char> buffer) {
 
 void OpenFile::write(std::span<const unsigned char> bytes) {
     while (!bytes.empty()) {
-        const ssize_t count = ::write(descriptor_, bytes.data(), bytes.size());
+        const ssize_t count = ::write(descriptor_of(handle_), bytes.data(), bytes.size());
         if (count >= 0) {
             bytes = bytes.subspan(static_cast<std::size_t>(count));
         } else if (errno != EINTR) {
@@ -100,12 +104,13 @@ void OpenFile::write(std::span<const unsigned char> bytes) {
 }
 
 std::size_t OpenFile::copy_some(OpenFile& to, std::size_t size) noexcept {
-    const ssize_t count = copy_file_range(descriptor_, nullptr, to.descriptor_, nullptr, size, 0);
+    const ssize_t count = copy_file_range(descriptor_of(handle_), nullptr,
+                                          descriptor_of(to.handle_), nullptr, size, 0);
     return count > 0 ? static_cast<std::size_t>(count) : 0;
 }
 
 void OpenFile::sync() {
-    while (fsync(descriptor_) != 0) {
+    while (fsync(descriptor_of(handle_)) != 0) {
         if (errno != EINTR) {
             files::raise_file_error(errno, path_);
         }
@@ -113,13 +118,13 @@ void OpenFile::sync() {
 }
 
 void OpenFile::sync_file_system() {
-    if (syncfs(descriptor_) != 0) {
+    if (syncfs(descriptor_of(handle_)) != 0) {
         files::raise_file_error(errno, path_);
     }
 }
 
 FileState OpenFile::state() const {
-    const struct stat status = status_of(descriptor_, path_);
+    const struct stat status = status_of(descriptor_of(handle_), path_);
     return {.device = status.st_dev,
             .number = status.st_ino,
             .size = static_cast<std::uint64_t>(status.st_size),
@@ -129,20 +134,20 @@ FileState OpenFile::state() const {
 
 bool OpenFile::lock_shared() {
     const BlockingScope waiting;
-    return lock(descriptor_, LOCK_SH);
+    return lock(descriptor_of(handle_), LOCK_SH);
 }
 
 bool OpenFile::try_lock_shared() {
-    return lock(descriptor_, LOCK_SH | LOCK_NB);
+    return lock(descriptor_of(handle_), LOCK_SH | LOCK_NB);
 }
 
 bool OpenFile::lock_alone() {
     const BlockingScope waiting;
-    return lock(descriptor_, LOCK_EX);
+    return lock(descriptor_of(handle_), LOCK_EX);
 }
 
 bool OpenFile::try_lock_alone() {
-    return lock(descriptor_, LOCK_EX | LOCK_NB);
+    return lock(descriptor_of(handle_), LOCK_EX | LOCK_NB);
 }
 
 }  // namespace cvdeveloper::standalone

@@ -1,0 +1,62 @@
+"""The server under Wine: a fresh prefix of its own, scripts and programs run in it."""
+
+from pathlib import Path
+
+import pytest
+
+from wine_prefix import Prefix, Result, why_not
+
+
+def pytest_collection_modifyitems(items):
+    reason = why_not()
+    if reason is None:
+        return
+    for item in items:
+        if Path(__file__).parent in item.path.parents:
+            item.add_marker(pytest.mark.skip(reason=reason))
+
+
+@pytest.fixture(scope="session")
+def new_prefix():
+    made = []
+
+    def make(name: str) -> Prefix:
+        made.append(Prefix(name))
+        return made[-1]
+
+    yield make
+    for prefix in made:
+        prefix.close()
+
+
+@pytest.fixture(scope="session")
+def prefix(new_prefix):
+    """A prefix in which both servers are registered."""
+    fresh = new_prefix("tests")
+    for dll in ("CVDeveloper.dll", "CVConnector.dll"):
+        assert fresh.register(dll).code == 0
+    return fresh
+
+
+@pytest.fixture
+def run_script(prefix, tmp_path):
+    """Runs VBScript text; it must end well unless the test asks for the result itself."""
+
+    def run(text: str, *words, check=True, ending="vbs") -> Result:
+        file = tmp_path / f"script.{ending}"
+        file.write_text(text, encoding="utf-8")
+        result = prefix.program("script_host", file, *words)
+        assert not check or result.code == 0, result.errors + result.text
+        return result
+
+    return run
+
+
+@pytest.fixture
+def lines_of(run_script):
+    """The lines that a script prints."""
+
+    def run(text: str, *words) -> list[str]:
+        return run_script(text, *words).lines
+
+    return run

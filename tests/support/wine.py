@@ -1,0 +1,93 @@
+"""Windows programs under Wine: what is built, and prefixes of their own to run it in.
+
+A prefix is a folder that Wine takes for a Windows installation; nothing of the user's is touched.
+"""
+
+import os
+import shutil
+import subprocess
+from dataclasses import dataclass
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+BUILD = ROOT / "build" / "windows64"
+PREFIXES = ROOT / "build" / "wine"
+LOCALES = ROOT / "build" / "locale"
+LANGUAGE = "de_DE.UTF-8"
+
+
+def why_not(*files: Path) -> str | None:
+    """The reason why programs cannot be run, for a test that is skipped."""
+    if shutil.which("wine") is None:
+        return "Wine is not installed"
+    if shutil.which("localedef") is None:
+        return "localedef is not installed"
+    if shutil.which("x86_64-w64-mingw32-g++-posix") is None:
+        return "MinGW-w64 is not installed"
+    for file in files:
+        if not file.exists():
+            return f"{file.relative_to(ROOT)} is not built"
+    return None
+
+
+def make_locale():
+    """Wine takes formats and the names of files from the locale, which few systems have."""
+    if not (LOCALES / LANGUAGE).exists():
+        LOCALES.mkdir(parents=True, exist_ok=True)
+        subprocess.run(
+            ["localedef", "-i", "de_DE", "-f", "UTF-8", LOCALES / LANGUAGE],
+            check=True, capture_output=True,
+        )
+
+
+@dataclass
+class Result:
+    code: int
+    lines: list[str]
+    errors: str
+
+    @property
+    def text(self) -> str:
+        return "\n".join(self.lines)
+
+
+class Prefix:
+    """A German Windows of its own."""
+
+    def __init__(self, name: str):
+        make_locale()
+        self.folder = PREFIXES / name
+        shutil.rmtree(self.folder, ignore_errors=True)
+        home = PREFIXES / "home"
+        home.mkdir(parents=True, exist_ok=True)
+        self.environment = {
+            "PATH": os.environ["PATH"],
+            "HOME": str(home),
+            "WINEPREFIX": str(self.folder),
+            "WINEDEBUG": "-all",
+            "WINEDLLOVERRIDES": "mscoree,mshtml,winemenubuilder.exe=",
+            "LC_ALL": LANGUAGE,
+            "LOCPATH": str(LOCALES),
+        }
+        self.run("wineboot", "-i", timeout=180)
+        # Windows itself writes days and months of a German date with two digits.
+        self.run("reg", "add", r"HKCU\Control Panel\International", "/v", "sShortDate",
+                 "/d", "dd.MM.yyyy", "/f")
+
+    def run(self, *words, timeout=60, **variables) -> Result:
+        done = subprocess.run(
+            ["wine", *map(str, words)],
+            env=self.environment | variables, cwd=self.folder.parent, capture_output=True,
+            timeout=timeout,
+        )
+        text = done.stdout.decode("utf-8", "replace").replace("\r\n", "\n")
+        return Result(done.returncode, text.splitlines(), done.stderr.decode("utf-8", "replace"))
+
+    def close(self):
+        """Ends the prefix's own processes and takes it away."""
+        subprocess.run(["wineserver", "-k"], env=self.environment, capture_output=True, timeout=60)
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+
+def windows_path(path: Path) -> str:
+    return f"Z:{path}".replace("/", "\\")
