@@ -1,6 +1,7 @@
 #include "host/sql/names.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace cvdeveloper::standalone::sql {
 
@@ -70,13 +71,13 @@ bool equal_names(std::string_view left, std::string_view right) noexcept {
 }
 
 std::size_t hash_name(std::string_view name) noexcept {
-    std::size_t hash = 14695981039346656037U;
+    std::uint64_t hash = 14695981039346656037U;
     char before = '\0';
     for (const char c : name) {
         hash = (hash ^ static_cast<unsigned char>(fold(c, before))) * 1099511628211U;
         before = c;
     }
-    return hash;
+    return static_cast<std::size_t>(hash);
 }
 
 std::string with_umlauts(std::string_view name) {
