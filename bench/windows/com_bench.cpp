@@ -13,8 +13,9 @@
 
 namespace {
 
-constexpr int rounds = 15;
-constexpr int calls = 1'000'000;
+// Many short rounds: the least disturbed ones count.
+constexpr int rounds = 101;
+constexpr int calls = 50'000;
 
 double now() {
     LARGE_INTEGER ticks;
@@ -33,9 +34,9 @@ double nanoseconds(const Call& call) {
     return (now() - begin) / calls;
 }
 
-double median(std::vector<double> values) {
+double lower_quartile(std::vector<double> values) {
     std::ranges::sort(values);
-    return values[values.size() / 2];
+    return values[values.size() / 4];
 }
 
 // The least that an object with one member can do.
@@ -89,8 +90,8 @@ void named_call(IDispatch* object) {
 }
 
 bool report(const char* what, double limit, std::vector<double> ours, std::vector<double> theirs) {
-    const double mine = median(std::move(ours));
-    const double peer = median(std::move(theirs));
+    const double mine = lower_quartile(std::move(ours));
+    const double peer = lower_quartile(std::move(theirs));
     std::printf("%-34s %8.1f ns  hand-written %6.1f ns  ratio %5.1f  limit %4.0f ns %s\n", what,
                 mine, peer, mine / peer, limit, mine <= limit ? "" : "EXCEEDED");
     return mine <= limit;
@@ -116,8 +117,7 @@ int main() {
     auto* list = create<_clsPhoneList>(L"CVDeveloper.clsPhoneList");
     auto* app = create<_Application>(L"CVDeveloper.Application");
     HandWritten plain;
-    HandWritten* volatile hidden = &plain;
-    HandWritten* peer = hidden;
+    HandWritten* volatile hidden = &plain;  // so that the calls stay calls
     DISPID id = 0;
     const wchar_t* name = L"Count";
     list->GetIDsOfNames(IID_NULL, const_cast<LPOLESTR*>(&name), 1, LOCALE_USER_DEFAULT, &id);
@@ -127,12 +127,12 @@ int main() {
     std::vector<double> early, session, by_id, by_name, peer_early, peer_id, peer_name;
     for (int round = 0; round < rounds; ++round) {
         early.push_back(nanoseconds([&] { list->get_Count(&count); }));
-        peer_early.push_back(nanoseconds([&] { peer->get_Count(&count); }));
+        peer_early.push_back(nanoseconds([&] { hidden->get_Count(&count); }));
         session.push_back(nanoseconds([&] { app->get_Corvanta_InitType(&kind); }));
         by_id.push_back(nanoseconds([&] { late_call(list, id); }));
-        peer_id.push_back(nanoseconds([&] { late_call(peer, 4); }));
+        peer_id.push_back(nanoseconds([&] { late_call(hidden, 4); }));
         by_name.push_back(nanoseconds([&] { named_call(list); }));
-        peer_name.push_back(nanoseconds([&] { named_call(peer); }));
+        peer_name.push_back(nanoseconds([&] { named_call(hidden); }));
     }
     bool good = report("early-bound call", 5, early, peer_early);
     good &= report("early-bound call within a session", 30, session, peer_early);

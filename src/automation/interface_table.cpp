@@ -11,8 +11,11 @@ namespace cvdeveloper {
 
 namespace {
 
+// Without a branch: which letters are capitals cannot be foreseen.
 constexpr char folded(char c) noexcept {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+    const auto letter = static_cast<unsigned char>(c);
+    const auto capital = static_cast<unsigned char>(letter - 'A') < 26U ? 1U : 0U;
+    return static_cast<char>(letter | (capital << 5U));
 }
 
 }  // namespace
