@@ -6,6 +6,7 @@ import json
 import os
 import re
 import shutil
+import signal
 import statistics
 import subprocess
 import sys
@@ -147,6 +148,7 @@ def measure(workload: Workload, offices: Offices, options: argparse.Namespace) -
 
 def main() -> None:
     options = arguments()
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit("stopped"))  # offices go with it
     chosen = [workload for workload in WORKLOADS if re.search(options.filter, workload.name)]
     if not chosen:
         sys.exit(f"no workload matches '{options.filter}': "
