@@ -94,13 +94,13 @@ def check_same_work(workload: Workload, offices: Offices, options: argparse.Name
     """One run of each side, and what it has written."""
     if not workload.office or workload.shares_office:
         return
-    before = same_work.Office(offices.get(workload.office, workload.full_sync))
+    before = offices.get(workload.office, workload.full_sync)
     done = {}
     for side in sides_of(workload, options.peers):
         with contextlib.ExitStack() as keep:
             worker = start(workload, side, offices, keep)
             worker.run(1)
-            done[side] = before.changes(worker.folder)
+            done[side] = same_work.changes(before, worker.folder)
     for side, changes in done.items():
         if found := same_work.difference(changes, done[workload.base]):
             sys.exit(f"{workload.name}: {side} and {workload.base} differ in {found}")
