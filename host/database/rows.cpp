@@ -8,14 +8,6 @@
 
 namespace cvdeveloper::standalone {
 
-namespace {
-
-constexpr std::size_t aligned(std::size_t size) noexcept {
-    return (size + alignof(Cell) - 1) / alignof(Cell) * alignof(Cell);
-}
-
-}  // namespace
-
 static_assert(sizeof(Cell) == 16);
 
 Value Cell::value() const noexcept {
@@ -52,25 +44,20 @@ bool same_content(const Cell& left, const Cell& right) noexcept {
     return false;
 }
 
-std::byte* Rows::allocate(std::size_t size) {
-    size = aligned(size);
-    if (size > left_) {
-        // Room for a handful of rows first, then ever larger blocks.
-        const std::size_t first = std::max<std::size_t>(512, columns_ * sizeof(Cell) * 2);
-        const std::size_t regular = next_block_ == 0 ? first : next_block_;
-        next_block_ = std::min(regular * 2, std::max(BlockPool::block_size, first));
-        if (size > regular / 2) {
-            // A piece of its own; what is left of the present block stays in use.
-            blocks_.push_back(std::make_unique_for_overwrite<std::byte[]>(size));
-            return blocks_.back().get();
-        }
-        free_ = add_block(regular);
-        left_ = regular;
+std::byte* Rows::allocate_in_new_block(std::size_t size) {
+    // Room for a handful of rows first, then ever larger blocks.
+    const std::size_t first = std::max<std::size_t>(512, columns_ * sizeof(Cell) * 2);
+    const std::size_t regular = next_block_ == 0 ? first : next_block_;
+    next_block_ = std::min(regular * 2, std::max(BlockPool::block_size, first));
+    if (size > regular / 2) {
+        // A piece of its own; what is left of the present block stays in use.
+        blocks_.push_back(std::make_unique_for_overwrite<std::byte[]>(size));
+        return blocks_.back().get();
     }
-    std::byte* const piece = free_;
-    free_ += size;
-    left_ -= size;
-    return piece;
+    std::byte* const block = add_block(regular);
+    free_ = block + size;
+    left_ = regular - size;
+    return block;
 }
 
 std::byte* Rows::add_block(std::size_t size) {
@@ -132,24 +119,6 @@ void Rows::keep_content(Cell& cell) {
     if (cell.kind == CellKind::Text || cell.kind == CellKind::Bytes) {
         cell.data = keep(cell.data, cell.size);
     }
-}
-
-void Rows::set_null(Cell& cell) noexcept {
-    cell.integer = 0;
-    cell.size = 0;
-    cell.kind = CellKind::Null;
-}
-
-void Rows::set_integer(Cell& cell, std::int64_t value) noexcept {
-    cell.integer = value;
-    cell.size = 0;
-    cell.kind = CellKind::Integer;
-}
-
-void Rows::set_double(Cell& cell, double value) noexcept {
-    cell.number = value;
-    cell.size = 0;
-    cell.kind = CellKind::Double;
 }
 
 }  // namespace cvdeveloper::standalone

@@ -56,12 +56,34 @@ class Rows {
     void set_bytes(Cell& cell, std::span<const std::byte> bytes);
     // The text or bytes of a cell copied from other rows become these rows' own.
     void keep_content(Cell& cell);
-    static void set_null(Cell& cell) noexcept;
-    static void set_integer(Cell& cell, std::int64_t value) noexcept;
-    static void set_double(Cell& cell, double value) noexcept;
+    static void set_null(Cell& cell) noexcept { set_integer(cell, 0, CellKind::Null); }
+    static void set_integer(Cell& cell, std::int64_t value) noexcept {
+        set_integer(cell, value, CellKind::Integer);
+    }
+    static void set_double(Cell& cell, double value) noexcept {
+        cell.number = value;
+        cell.size = 0;
+        cell.kind = CellKind::Double;
+    }
 
   private:
-    std::byte* allocate(std::size_t size);
+    static void set_integer(Cell& cell, std::int64_t value, CellKind kind) noexcept {
+        cell.integer = value;
+        cell.size = 0;
+        cell.kind = kind;
+    }
+
+    std::byte* allocate(std::size_t size) {
+        size = (size + alignof(Cell) - 1) / alignof(Cell) * alignof(Cell);
+        if (size > left_) {
+            return allocate_in_new_block(size);
+        }
+        std::byte* const piece = free_;
+        free_ += size;
+        left_ -= size;
+        return piece;
+    }
+    std::byte* allocate_in_new_block(std::size_t size);
     Cell* allocate_cells();
     std::byte* add_block(std::size_t size);
     const char* keep(const void* data, std::size_t size);

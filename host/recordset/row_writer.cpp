@@ -85,7 +85,26 @@ bool RowWriter::is_single_statement(const ClientRecordSet& record_set) const noe
     return record_set.changes().size() == 1 && rule_of(record_set.shape()) == nullptr;
 }
 
+bool RowWriter::only_adds(const ClientRecordSet& record_set) const noexcept {
+    return rule_of(record_set.shape()) == nullptr &&
+           std::ranges::all_of(record_set.changes(), [&](const ClientRecordSet::Change& change) {
+               return record_set.state(change.row) == RowState::Added;
+           });
+}
+
+void RowWriter::take_back(const ClientRecordSet& record_set) {
+    const Shape& shape = record_set.shape();
+    text_ = "DELETE FROM ";
+    append_name(text_, shape.base()->name());
+    text_ += " WHERE \"DSN\"=?";
+    for (const ClientRecordSet::Change& change : record_set.changes().first(written_)) {
+        values_.assign(1, record_set.cells(change.row)[shape.key()].value());
+        execute();
+    }
+}
+
 SavedChanges RowWriter::write(const ClientRecordSet& record_set) {
+    written_ = 0;
     require_key(record_set.shape());
     TableRule* const rule = rule_of(record_set.shape());
     SavedChanges saved;
@@ -93,6 +112,7 @@ SavedChanges RowWriter::write(const ClientRecordSet& record_set) {
     for (const ClientRecordSet::Change& change : record_set.changes()) {
         if (rule == nullptr) {
             saved.versions.push_back(write_row(record_set, change, {}));
+            ++written_;
             continue;
         }
         const RowChange row(record_set, change);

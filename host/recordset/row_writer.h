@@ -26,6 +26,10 @@ class RowWriter {
     SavedChanges write(const ClientRecordSet& record_set);
     // Whether writing the changes takes no more than one statement.
     [[nodiscard]] bool is_single_statement(const ClientRecordSet& record_set) const noexcept;
+    // Whether the changes are new rows and nothing else, so that take_back() can undo them.
+    [[nodiscard]] bool only_adds(const ClientRecordSet& record_set) const noexcept;
+    // Deletes the new rows that the last write() has inserted.
+    void take_back(const ClientRecordSet& record_set);
 
   private:
     struct Nothing {};
@@ -49,6 +53,7 @@ class RowWriter {
     // Used again for each row.
     std::string text_;
     std::vector<Value> values_;
+    std::size_t written_ = 0;  // changes, by the last write()
 };
 
 }  // namespace cvdeveloper::standalone

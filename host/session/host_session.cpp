@@ -209,7 +209,12 @@ void HostSession::update_record_set(const RecordSet& record_set) {
         return;
     }
     SavedChanges saved;
-    transactions_.run(writer_.is_single_statement(*rows), [&] { saved = writer_.write(*rows); });
+    const auto write = [&] { saved = writer_.write(*rows); };
+    if (writer_.is_single_statement(*rows) || !writer_.only_adds(*rows)) {
+        transactions_.run(writer_.is_single_statement(*rows), write);
+    } else {
+        transactions_.run(write, [&] { writer_.take_back(*rows); });
+    }
     rows->mark_saved(saved);
 }
 

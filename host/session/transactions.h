@@ -43,6 +43,23 @@ class Transactions final {
         }
     }
 
+    // The same for a write that can be taken back with less effort than a savepoint costs;
+    // take_back() knows by itself how far the write has come.
+    template <class Write, class TakeBack>
+    void run(const Write& write, const TakeBack& take_back) {
+        prepare_for_write();
+        if (!database_.in_transaction()) {
+            run_in_transaction(write);
+            return;
+        }
+        try {
+            write();
+        } catch (...) {
+            take_back_or_roll_back(take_back);
+            throw;
+        }
+    }
+
     // Runs writes that do no harm by halves: in the transaction that is open, or in one of their
     // own.
     template <class Write>
@@ -57,6 +74,19 @@ class Transactions final {
 
   private:
     void prepare_for_write();
+
+    // Called while an error is on its way: that one counts.
+    template <class TakeBack>
+    void take_back_or_roll_back(const TakeBack& take_back) noexcept {
+        try {
+            // A full disk ends the transaction, and with it everything in it.
+            if (database_.in_transaction()) {
+                take_back();
+            }
+        } catch (const std::exception&) {
+            database_.rollback();
+        }
+    }
 
     template <class Write>
     void run_in_savepoint(const Write& write) {

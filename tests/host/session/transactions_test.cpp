@@ -42,6 +42,32 @@ TEST_F(Units, KeepWhatWasWrittenBeforeAnError) {
     EXPECT_EQ(seen_by_others(), 1);
 }
 
+TEST_F(Units, TakeBackTheNewRowsOfAFailedSaveAndNoOthers) {
+    RecordSet rs = select("SELECT * FROM AKT WHERE 1=2");
+    rs.add_new();
+    rs.set("DSN", "C");
+    rs.set("Subject", "war schon da");
+    save(rs);
+    unit().enter();
+    rs = select("SELECT * FROM AKT WHERE 1=2");
+    for (const char* key : {"A", "B", "C", "D"}) {
+        rs.add_new();
+        rs.set("DSN", key);
+    }
+    EXPECT_EQ(error_of([&] { save(rs); }).number(),
+              static_cast<std::int32_t>(HostError::ValueRefused));
+    EXPECT_EQ(single("SELECT count(*) FROM AKT"), Variant(1));
+    EXPECT_EQ(single("SELECT Subject FROM AKT"), Variant("war schon da"));
+    // The record set keeps its rows: with another key they can be saved.
+    rs.move_first();
+    rs.move_next();
+    rs.move_next();
+    rs.set("DSN", "E");
+    save(rs);
+    unit().leave();
+    EXPECT_EQ(seen_by_others(), 5);
+}
+
 TEST_F(Units, HoldNoLockBeforeTheirFirstWrite) {
     unit().enter();
     (void)single("SELECT count(*) FROM AKT");
