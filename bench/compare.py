@@ -6,6 +6,7 @@ import json
 import os
 import re
 import shutil
+import signal
 import statistics
 import subprocess
 import sys
@@ -93,13 +94,13 @@ def check_same_work(workload: Workload, offices: Offices, options: argparse.Name
     """One run of each side, and what it has written."""
     if not workload.office or workload.shares_office:
         return
-    before = same_work.Office(offices.get(workload.office, workload.full_sync))
+    before = offices.get(workload.office, workload.full_sync)
     done = {}
     for side in sides_of(workload, options.peers):
         with contextlib.ExitStack() as keep:
             worker = start(workload, side, offices, keep)
             worker.run(1)
-            done[side] = before.changes(worker.folder)
+            done[side] = same_work.changes(before, worker.folder)
     for side, changes in done.items():
         if found := same_work.difference(changes, done[workload.base]):
             sys.exit(f"{workload.name}: {side} and {workload.base} differ in {found}")
@@ -147,6 +148,7 @@ def measure(workload: Workload, offices: Offices, options: argparse.Namespace) -
 
 def main() -> None:
     options = arguments()
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit("stopped"))  # offices go with it
     chosen = [workload for workload in WORKLOADS if re.search(options.filter, workload.name)]
     if not chosen:
         sys.exit(f"no workload matches '{options.filter}': "

@@ -52,38 +52,40 @@ def test_names_of_workloads_are_unique():
     assert len(set(names)) == len(names)
 
 
-def office(folder, keys, subject):
-    folder.mkdir(exist_ok=True)
+def office(folder, rows):
+    """A folder whose AKT has these rows of key, version and text."""
+    folder.mkdir()
     with sqlite3.connect(folder / "corvanta.db") as connection:
         for name in same_work.TABLES:
-            connection.execute(f"CREATE TABLE IF NOT EXISTS {name} (DSN, Text)")
-        for key in keys:
-            connection.execute("INSERT INTO AKT VALUES (?, ?)", (key, subject))
+            connection.execute(f"CREATE TABLE {name} (DSN, STAMP, Text)")
+        connection.execute("CREATE TABLE cv_counter (name, prefix, last_number)")
+        connection.executemany("INSERT INTO AKT VALUES (?, ?, ?)", rows)
     return folder
 
 
-OLD = "AC000000-0000-4000-8000-000000000001"
+OLD = ("AC000000-0000-4000-8000-000000000001", 0, "alt")
 ONE = "11111111-2222-4333-8444-555555555555"
 OTHER = "99999999-2222-4333-8444-555555555555"
 
 
 def test_new_keys_are_alike_and_other_differences_count(tmp_path):
-    before = same_work.Office(office(tmp_path / "before", [OLD], "alt"))
+    before = office(tmp_path / "before", [OLD])
 
-    def changes(name, key, subject):
-        office(tmp_path / name, [OLD], "alt")
-        return before.changes(office(tmp_path / name, [key], subject))
+    def written(name, *rows):
+        return same_work.changes(before, office(tmp_path / name, rows))
 
-    one = changes("one", ONE, "neu")
-    assert one["AKT"] == ["('(new)', 'neu')"]
-    assert same_work.difference(one, changes("same", OTHER, "neu")) == ""
-    assert "anders" in same_work.difference(one, changes("different", OTHER, "anders"))
-    assert same_work.difference(one, changes("more", OLD, "neu")).startswith("AKT")
+    one = written("one", OLD, (ONE, 0, "neu"))
+    assert one["AKT"] == ["('(new)', 0, 'neu')"]
+    assert same_work.difference(one, written("same", OLD, (OTHER, 0, "neu"))) == ""
+    assert "anders" in same_work.difference(one, written("text", OLD, (OTHER, 0, "anders")))
+    assert same_work.difference(one, written("none", OLD)) == "AKT: 1 and 0"
+    changed = written("changed", (OLD[0], 1, "neu"))
+    assert changed["AKT"] == [f"('{OLD[0]}', 1, 'neu')"]
 
 
 def test_lines_of_the_log_count_as_work(tmp_path):
-    folder = office(tmp_path / "office", [OLD], "alt")
-    before = same_work.Office(folder)
-    silent = before.changes(folder)
+    before = office(tmp_path / "before", [OLD])
+    folder = office(tmp_path / "office", [OLD])
+    silent = same_work.changes(before, folder)
     (folder / "peer.log").write_bytes(b"eine Zeile\r\n")
-    assert same_work.difference(before.changes(folder), silent) == "log: 1 and 0"
+    assert same_work.difference(same_work.changes(before, folder), silent) == "log: 1 and 0"
