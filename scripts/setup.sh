@@ -52,7 +52,10 @@ parse_arguments() {
     done
 }
 
+# Builds a preset: all of it, or the targets that follow.
 build() {
-    say "Building ($1)"
-    (cd "$root" && cmake --preset "$1" --log-level=WARNING && cmake --build --preset "$1")
+    local preset=$1 targets=("${@:2}")
+    say "Building ($preset)"
+    (cd "$root" && cmake --preset "$preset" --log-level=WARNING &&
+        cmake --build --preset "$preset" --target "${targets[@]:-all}")
 }

@@ -114,7 +114,7 @@ void make_all(std::string_view path, const CreateOptions& options) {
     files::restrict_to_owner(paths::to_text(ini));
     OpenFile(paths::to_text(unfinished), OpenFile::Mode::Append).sync();
     fs::rename(unfinished, folder / "corvanta.db");
-    OpenFile(paths::to_text(folder), OpenFile::Mode::Folder).sync();
+    sync_folder(paths::to_text(folder));
     undo.keep();
 }
 

@@ -118,7 +118,7 @@ void ArchiveWriter::finish() {
     }
     handle_.reset();
     const fs::path folder = fs::absolute(path_).parent_path();
-    OpenFile(folder.string(), OpenFile::Mode::Folder).sync();
+    sync_folder(folder.string());
 }
 
 void ArchiveReader::Free::operator()(archive* handle) const noexcept {

@@ -41,7 +41,7 @@ class UnfinishedFolder {
     void become(const fs::path& folder) const {
         OpenFile(path_.string(), OpenFile::Mode::Folder).sync_file_system();
         fs::rename(path_, folder);
-        OpenFile(folder.parent_path().string(), OpenFile::Mode::Folder).sync();
+        sync_folder(folder.parent_path().string());
     }
 
   private:

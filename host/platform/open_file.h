@@ -27,7 +27,7 @@ class OpenFile {
         Read,       // an ordinary file; error 53 where there is none, 75 for anything else
         CreateNew,  // for its owner's eyes only
         Append,     // the same, made where it is missing
-        Folder,     // to be locked or synced
+        Folder,     // to be locked
     };
 
     OpenFile(std::string_view path, Mode mode);
@@ -60,5 +60,8 @@ class OpenFile {
     std::string path_;
     std::intptr_t handle_ = -1;  // the system's
 };
+
+// What was made or renamed in the folder outlives a power failure from here on.
+void sync_folder(std::string_view path);
 
 }  // namespace cvdeveloper::standalone

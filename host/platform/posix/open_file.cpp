@@ -150,4 +150,8 @@ bool OpenFile::try_lock_alone() {
     return lock(descriptor_of(handle_), LOCK_EX | LOCK_NB);
 }
 
+void sync_folder(std::string_view path) {
+    OpenFile(path, OpenFile::Mode::Folder).sync();
+}
+
 }  // namespace cvdeveloper::standalone

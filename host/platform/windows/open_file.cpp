@@ -155,4 +155,7 @@ bool OpenFile::try_lock_alone() {
     return lock(handle_of(handle_), LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY);
 }
 
+// The system keeps its folders by itself.
+void sync_folder(std::string_view /*path*/) {}
+
 }  // namespace cvdeveloper::standalone

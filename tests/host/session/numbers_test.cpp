@@ -85,7 +85,7 @@ TEST_F(NumbersGivenOut, AreHandedOutOnceEachInsideUnitsOfWork) {
 }
 
 TEST_F(NumbersGivenOut, HaveTheFormThatTheSettingsSay) {
-    std::ofstream(host_path() + "/corvanta.ini") << "[Kennungen]\nStellen=7\n";
+    std::ofstream(paths::to_system(host_path() + "/corvanta.ini")) << "[Kennungen]\nStellen=7\n";
     const auto set_prefix = [this](const std::string& prefix, int last) {
         HostFolder::open(host_path())
             .open_database()

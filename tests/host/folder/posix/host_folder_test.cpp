@@ -14,7 +14,10 @@ TEST(AFolderOnDisk, IsMadeForItsOwnerAlone) {
     for (const char* name : {"", "pic.obj", "Anlagen"}) {
         EXPECT_EQ(fs::status(path / name).permissions(), fs::perms::owner_all) << name;
     }
-    for (const char* name : {"corvanta.ini", "corvanta.db"}) {
+    Connector connector;
+    connector.Logon(path.string(), "chef", "");
+    EXPECT_FALSE(connector.GetRecordset("SELECT * FROM AD", {}).at_end());
+    for (const char* name : {"corvanta.ini", "corvanta.db", "corvanta.db-wal", "corvanta.db-shm"}) {
         EXPECT_EQ(fs::status(path / name).permissions(),
                   fs::perms::owner_read | fs::perms::owner_write)
             << name;
