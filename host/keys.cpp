@@ -2,6 +2,7 @@
 
 #include <sodium.h>
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdint>
@@ -42,17 +43,19 @@ std::string new_key() {
 }
 
 std::string literal(std::string_view text) {
-    std::string quoted;
-    quoted.reserve(text.size() + 2);
-    quoted += '\'';
-    for (;;) {
-        const std::size_t quote = text.find('\'');
-        if (quote == std::string_view::npos) {
-            return quoted.append(text) += '\'';
-        }
-        quoted.append(text.substr(0, quote + 1)) += '\'';
-        text.remove_prefix(quote + 1);
+    const auto quotes = static_cast<std::size_t>(std::ranges::count(text, '\''));
+    std::string quoted(text.size() + quotes + 2, '\'');
+    char* place = quoted.data() + 1;
+    if (quotes == 0) {
+        std::ranges::copy(text, place);
+        return quoted;
     }
+    for (const char c : text) {
+        // A quote is followed by the one that is there already.
+        *place = c;
+        place += c == '\'' ? 2 : 1;
+    }
+    return quoted;
 }
 
 }  // namespace cvdeveloper::standalone

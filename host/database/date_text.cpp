@@ -57,10 +57,13 @@ std::optional<double> parse_time(std::string_view text) noexcept {
         if (text[5] != ':' || whole < 0 || whole > 59) {
             return std::nullopt;
         }
-        const char* const end = text.data() + text.size();
-        const auto [stop, error] = std::from_chars(text.data() + 6, end, seconds);
-        if (error != std::errc() || stop != end) {
-            return std::nullopt;
+        seconds = whole;
+        if (text.size() > 8) {
+            const char* const end = text.data() + text.size();
+            const auto [stop, error] = std::from_chars(text.data() + 6, end, seconds);
+            if (error != std::errc() || stop != end) {
+                return std::nullopt;
+            }
         }
     }
     return (hours * 3600 + minutes * 60 + seconds) / 86400.0;

@@ -64,8 +64,14 @@ std::byte* Rows::add_block(std::size_t size) {
     if (size == BlockPool::block_size) {
         return large_blocks_.add();
     }
-    blocks_.push_back(std::make_unique_for_overwrite<std::byte[]>(size));
-    return blocks_.back().get();
+    auto block = std::make_unique_for_overwrite<std::byte[]>(size);
+    std::byte* const place = block.get();
+    if (first_block_ == nullptr) {
+        first_block_ = std::move(block);
+    } else {
+        blocks_.push_back(std::move(block));
+    }
+    return place;
 }
 
 Cell* Rows::allocate_cells() {
@@ -79,8 +85,13 @@ std::span<Cell> Rows::append() {
 }
 
 std::span<Cell> Rows::append_to_be_set() {
-    rows_.push_back(allocate_cells());
-    return {rows_.back(), columns_};
+    Cell* const cells = allocate_cells();
+    if (first_row_ == nullptr) {
+        first_row_ = cells;
+    } else {
+        other_rows_.push_back(cells);
+    }
+    return {cells, columns_};
 }
 
 std::span<Cell> Rows::keep_copy(std::span<const Cell> cells) {

@@ -39,10 +39,12 @@ class Rows {
     explicit Rows(std::size_t columns, std::shared_ptr<BlockPool> pool = nullptr) noexcept
         : columns_(columns), large_blocks_(std::move(pool)) {}
 
-    [[nodiscard]] std::size_t size() const noexcept { return rows_.size(); }
+    [[nodiscard]] std::size_t size() const noexcept {
+        return first_row_ == nullptr ? 0 : 1 + other_rows_.size();
+    }
     [[nodiscard]] std::size_t columns() const noexcept { return columns_; }
     [[nodiscard]] std::span<Cell> operator[](std::size_t row) const noexcept {
-        return {rows_[row], columns_};
+        return {row == 0 ? first_row_ : other_rows_[row - 1], columns_};
     }
 
     // A new last row of nulls.
@@ -89,7 +91,10 @@ class Rows {
     const char* keep(const void* data, std::size_t size);
 
     std::size_t columns_;
-    std::vector<Cell*> rows_;
+    // Most results have one row and need one block: neither costs a list.
+    Cell* first_row_ = nullptr;
+    std::vector<Cell*> other_rows_;
+    std::unique_ptr<std::byte[]> first_block_;
     std::vector<std::unique_ptr<std::byte[]>> blocks_;
     PooledBlocks large_blocks_;
     std::byte* free_ = nullptr;

@@ -1,5 +1,6 @@
 #include "platform/text.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/case_mapping.h"
@@ -106,10 +107,10 @@ std::string joined(std::initializer_list<std::string_view> pieces) {
     for (const std::string_view piece : pieces) {
         size += piece.size();
     }
-    std::string text;
-    text.reserve(size);
+    std::string text(size, '\0');
+    char* place = text.data();
     for (const std::string_view piece : pieces) {
-        text += piece;
+        place = std::copy(piece.begin(), piece.end(), place);
     }
     return text;
 }
