@@ -43,19 +43,17 @@ std::string new_key() {
 }
 
 std::string literal(std::string_view text) {
-    const auto quotes = static_cast<std::size_t>(std::ranges::count(text, '\''));
-    std::string quoted(text.size() + quotes + 2, '\'');
-    char* place = quoted.data() + 1;
-    if (quotes == 0) {
-        std::ranges::copy(text, place);
+    // Keys and most texts have no quote: looking for one is quicker than counting them.
+    if (text.find('\'') == std::string_view::npos) {
+        std::string quoted(text.size() + 2, '\'');
+        std::ranges::copy(text, quoted.data() + 1);
         return quoted;
     }
+    std::string quoted = "'";
     for (const char c : text) {
-        // A quote is followed by the one that is there already.
-        *place = c;
-        place += c == '\'' ? 2 : 1;
+        quoted.append(c == '\'' ? 2 : 1, c);
     }
-    return quoted;
+    return quoted += '\'';
 }
 
 }  // namespace cvdeveloper::standalone

@@ -181,35 +181,39 @@ TEST_F(Failing, FolderWithoutRightsIsNamed) {
     if (geteuid() != 0) {
         GTEST_SKIP() << "only the superuser can become somebody without rights";
     }
-    // The folder above is another's, too: it must let us through.
-    fs::permissions(folder.path(), fs::perms::all);
-    in_child([this] {
+    // Where others get through to the folder itself.
+    const TemporaryFolder open_place(fs::temp_directory_path());
+    fs::permissions(open_place.path(), fs::perms::all);
+    const std::string path = open_place.path("büro");
+    fs::copy(host_path(), path, fs::copy_options::recursive);
+    fs::permissions(path, fs::perms::owner_all);
+    const auto try_to_log_on = [&path] { make_object<Connector>()->Logon(path, "chef", ""); };
+    in_child([&] {
         ASSERT_EQ(setgid(65534), 0);
         ASSERT_EQ(setuid(65534), 0);
-        const AutomationError error = error_of([&] { static_cast<void>(log_on()); });
+        const AutomationError error = error_of(try_to_log_on);
         EXPECT_EQ(error.number(), number(HostError::NoRights));
-        EXPECT_EQ(error.description(), "Die Datei corvanta.ini im Ordner '" + host_path() +
+        EXPECT_EQ(error.description(), "Die Datei corvanta.ini im Ordner '" + path +
                                            "' kann nicht gelesen werden: dafür fehlen die Rechte.");
     });
-    fs::permissions(host_path(), fs::perms::all);
-    fs::permissions(host_path() + "/corvanta.ini", fs::perms::all);
-    in_child([this] {
+    fs::permissions(path, fs::perms::all);
+    fs::permissions(path + "/corvanta.ini", fs::perms::all);
+    in_child([&] {
         ASSERT_EQ(setgid(65534), 0);
         ASSERT_EQ(setuid(65534), 0);
-        const AutomationError error = error_of([&] { static_cast<void>(log_on()); });
+        const AutomationError error = error_of(try_to_log_on);
         EXPECT_EQ(error.number(), number(HostError::NoRights));
         EXPECT_EQ(error.description(),
-                  "Die Datenbank '" + host_path() +
+                  "Die Datenbank '" + path +
                       "/corvanta.db' kann nicht geöffnet oder geschrieben werden: dafür fehlen die "
                       "Rechte.");
     });
-    fs::permissions(host_path() + "/corvanta.db", fs::perms::group_read | fs::perms::others_read,
+    fs::permissions(path + "/corvanta.db", fs::perms::group_read | fs::perms::others_read,
                     fs::perm_options::add);
-    in_child([this] {
+    in_child([&] {
         ASSERT_EQ(setgid(65534), 0);
         ASSERT_EQ(setuid(65534), 0);
-        EXPECT_EQ(error_of([&] { static_cast<void>(log_on()); }).number(),
-                  number(HostError::NoRights))
+        EXPECT_EQ(error_of(try_to_log_on).number(), number(HostError::NoRights))
             << "a database that may only be read";
     });
 }
