@@ -13,6 +13,9 @@ execute_process(
   OUTPUT_VARIABLE said
   ERROR_VARIABLE said
   RESULT_VARIABLE result)
+# It warns of the defaults of arguments by reference and writes them all the same: what the loaded
+# library says of them is compared by the tests.
+string(REPLACE "warning: non-null pointer default value\n" "" said "${said}")
 if(NOT result EQUAL 0 OR NOT said STREQUAL "")
   file(REMOVE "${OUTPUT}")
   message(FATAL_ERROR "${IDL} does not compile:\n${said}")

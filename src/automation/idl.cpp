@@ -82,10 +82,7 @@ std::string optional_text(const Parameter& parameter, ValueType type) {
     if (parameter.default_value.required()) {
         return {};
     }
-    // The compiler writes no default of a pointer.
-    const std::string value = parameter.direction == Direction::InOut
-                                  ? std::string()
-                                  : default_text(parameter.default_value, type);
+    const std::string value = default_text(parameter.default_value, type);
     return value.empty() ? ", optional" : ", optional, defaultvalue(" + value + ")";
 }
 
