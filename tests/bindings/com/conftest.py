@@ -1,10 +1,12 @@
 """The server under Wine: a fresh prefix of its own, scripts and programs run in it."""
 
+import shutil
+import subprocess
 from pathlib import Path
 
 import pytest
 
-from wine_prefix import Prefix, Result, why_not
+from wine_prefix import ROOT, Prefix, Result, windows_path, why_not
 
 
 def pytest_collection_modifyitems(items):
@@ -60,3 +62,19 @@ def lines_of(run_script):
         return run_script(text, *words).lines
 
     return run
+
+
+@pytest.fixture(scope="session")
+def sample(tmp_path_factory):
+    folder = tmp_path_factory.mktemp("office") / "buero"
+    cvdev = ROOT / "build" / "release" / "bin" / "cvdev"
+    subprocess.run([cvdev, "init", folder, "--sample"], check=True, capture_output=True)
+    return folder
+
+
+@pytest.fixture
+def office(sample, tmp_path):
+    """A host folder with the sample office, a test's own."""
+    folder = tmp_path / "buero"
+    shutil.copytree(sample, folder)
+    return windows_path(folder)

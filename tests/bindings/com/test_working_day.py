@@ -1,32 +1,12 @@
 """A working day on the stand-alone host, from a script, with no host program."""
 
-import shutil
-import subprocess
-
-import pytest
-
-from wine_prefix import ROOT, windows_path
+from wine_prefix import ROOT
 
 EXAMPLE = ROOT / "examples" / "windows" / "arbeitstag.vbs"
 CONNECT = """
 Dim app: Set app = CreateObject("CVDeveloper.Application")
 app.Corvanta_InitConnector WScript.Arguments(0), "chef", ""
 """
-
-
-@pytest.fixture(scope="module")
-def sample(tmp_path_factory):
-    folder = tmp_path_factory.mktemp("office") / "buero"
-    cvdev = ROOT / "build" / "release" / "bin" / "cvdev"
-    subprocess.run([cvdev, "init", folder, "--sample"], check=True, capture_output=True)
-    return folder
-
-
-@pytest.fixture
-def office(sample, tmp_path):
-    folder = tmp_path / "buero"
-    shutil.copytree(sample, folder)
-    return windows_path(folder)
 
 
 def test_the_example_goes_through_a_working_day(prefix, office):
