@@ -82,7 +82,11 @@ std::string optional_text(const Parameter& parameter, ValueType type) {
     if (parameter.default_value.required()) {
         return {};
     }
-    const std::string value = default_text(parameter.default_value, type);
+    // The compiler knows no text behind a pointer; one that is left out arrives as "".
+    const bool is_text_by_reference =
+        parameter.direction == Direction::InOut && type == ValueType::String;
+    const std::string value =
+        is_text_by_reference ? std::string() : default_text(parameter.default_value, type);
     return value.empty() ? ", optional" : ", optional, defaultvalue(" + value + ")";
 }
 
