@@ -6,6 +6,7 @@ A prefix is a folder that Wine takes for a Windows installation; nothing of the 
 import os
 import shutil
 import subprocess
+import tempfile
 from dataclasses import dataclass
 from pathlib import Path
 
@@ -75,13 +76,18 @@ class Prefix:
                  "/d", "dd.MM.yyyy", "/f")
 
     def run(self, *words, timeout=60, **variables) -> Result:
-        done = subprocess.run(
-            ["wine", *map(str, words)],
-            env=self.environment | variables, cwd=self.folder.parent, capture_output=True,
-            timeout=timeout,
-        )
-        text = done.stdout.decode("utf-8", "replace").replace("\r\n", "\n")
-        return Result(done.returncode, text.splitlines(), done.stderr.decode("utf-8", "replace"))
+        # Into files: Wine's own processes keep a pipe open long after the program has ended.
+        with tempfile.TemporaryFile() as out, tempfile.TemporaryFile() as errors:
+            done = subprocess.run(
+                ["wine", *map(str, words)],
+                env=self.environment | variables, cwd=self.folder.parent, timeout=timeout,
+                stdin=subprocess.DEVNULL, stdout=out, stderr=errors,
+            )
+            texts = []
+            for file in (out, errors):
+                file.seek(0)
+                texts.append(file.read().decode("utf-8", "replace").replace("\r\n", "\n"))
+        return Result(done.returncode, texts[0].splitlines(), texts[1])
 
     def close(self):
         """Ends the prefix's own processes and takes it away."""

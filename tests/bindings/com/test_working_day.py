@@ -12,7 +12,7 @@ app.Corvanta_InitConnector WScript.Arguments(0), "chef", ""
 def test_the_example_goes_through_a_working_day(prefix, office):
     result = prefix.program("script_host", EXAMPLE, office)
     assert (result.code, result.errors) == (0, "")
-    assert "  16.6.2026 10:00:00  Besichtigung Kirchplatz 2" in result.lines
+    assert "  16.06.2026 10:00:00  Besichtigung Kirchplatz 2" in result.lines
     assert "  O-100001: Lindenweg 12" in result.lines
     assert "    Wohnfläche           148,5" in result.lines
     assert any(line.endswith(" am 23.11.2026 10:00:00") and ": Rückfrage mit " in line
@@ -63,4 +63,4 @@ Dim holidays: Set holidays = CreateObject("clqexstdc10.cLegalHolidays")
 holidays.Eintragen 2026
 WScript.Echo holidays.Day(1), holidays.Description(1)
 WScript.Echo "[" & app.oTools.IsFeiertag(DateSerial(2026, 12, 25)) & "]"
-""", office).lines == ["1.1.2026 Neujahr", "[]"]
+""", office).lines == ["01.01.2026 Neujahr", "[]"]
