@@ -9,12 +9,6 @@ namespace cvdeveloper::standalone {
 
 namespace {
 
-// rs("Name") of a script is the field itself: its value is meant.
-Variant plain(Variant value) {
-    const auto* object = value.get_if<ObjectRef>();
-    return object != nullptr && *object ? ObjectRef(*object)->default_value() : value;
-}
-
 bool is_nothing(const Variant& value) {
     return value.is<Null>() || value.is<Empty>() || value.is<Missing>();
 }
@@ -56,17 +50,17 @@ std::string Util::GeneralDate(Date date) {
 }
 
 Variant Util::k(Variant value) {
-    value = plain(std::move(value));
+    value = plain_value(std::move(value));
     return is_nothing(value) ? Variant("") : Variant(to_text(std::move(value)));
 }
 
 Variant Util::d(Variant value) {
-    value = plain(std::move(value));
+    value = plain_value(std::move(value));
     return is_blank(value) ? 0.0 : to_double(value);
 }
 
 Variant Util::b(Variant value) {
-    value = plain(std::move(value));
+    value = plain_value(std::move(value));
     return !is_blank(value) && to_boolean(value);
 }
 

@@ -19,12 +19,8 @@ namespace {
 // Puts an object's default member in its place. What that raises is no failure to convert, unless
 // there is no such member.
 void take_default_value(Variant& slot, const Place& place) {
-    const auto* held = slot.get_if<ObjectRef>();
-    if (held == nullptr || !*held) {
-        return;
-    }
     try {
-        slot = ObjectRef(*held)->default_value();
+        slot = plain_value(slot);
     } catch (const AutomationError& error) {
         if (error.number() == static_cast<std::int32_t>(RuntimeError::TypeMismatch)) {
             raise(RuntimeError::TypeMismatch, describe(place));

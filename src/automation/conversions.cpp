@@ -11,10 +11,10 @@ namespace cvdeveloper {
 
 namespace {
 
-// The object, where the value is one.
-Object* object_in(const Variant& value) {
+// Nothing is no object.
+bool is_object(const Variant& value) {
     const auto* object = value.get_if<ObjectRef>();
-    return object == nullptr ? nullptr : object->get();
+    return object != nullptr && *object;
 }
 
 [[noreturn]] void raise_no_value(const Variant& value) {
@@ -34,6 +34,18 @@ Integer to_integer(const Variant& value) {
 
 }  // namespace
 
+Variant plain_value(Variant value) {
+    // Objects of scripts can give themselves, or each other.
+    constexpr int deepest = 16;
+    for (int depth = 0; depth < deepest; ++depth) {
+        if (!is_object(value)) {
+            return value;
+        }
+        value = ObjectRef(value.get<ObjectRef>())->default_value();
+    }
+    raise(RuntimeError::TypeMismatch);
+}
+
 std::string to_text(const Variant& value) {
     switch (value.type()) {
         case VariantType::Empty:
@@ -51,8 +63,8 @@ std::string to_text(const Variant& value) {
         case VariantType::String:
             return value.get<std::string>();
         default:
-            if (Object* object = object_in(value)) {
-                return to_text(object->default_value());
+            if (is_object(value)) {
+                return to_text(plain_value(value));
             }
             raise_no_value(value);
     }
@@ -73,8 +85,8 @@ bool to_boolean(const Variant& value) {
     if (const auto* flag = value.get_if<bool>()) {
         return *flag;
     }
-    if (Object* object = object_in(value)) {
-        return to_boolean(object->default_value());
+    if (is_object(value)) {
+        return to_boolean(plain_value(value));
     }
     if (const auto* text = value.get_if<std::string>()) {
         if (const auto flag = regional::parse_boolean(*text)) {
@@ -118,8 +130,8 @@ double to_double(const Variant& value) {
             }
             raise(RuntimeError::TypeMismatch);
         default:
-            if (Object* object = object_in(value)) {
-                return to_double(object->default_value());
+            if (is_object(value)) {
+                return to_double(plain_value(value));
             }
             raise_no_value(value);
     }
@@ -129,8 +141,8 @@ Date to_date(const Variant& value) {
     if (const auto* date = value.get_if<Date>()) {
         return *date;
     }
-    if (Object* object = object_in(value)) {
-        return to_date(object->default_value());
+    if (is_object(value)) {
+        return to_date(plain_value(value));
     }
     if (const auto* text = value.get_if<std::string>()) {
         if (const auto date = regional::parse_date(*text)) {

@@ -31,6 +31,36 @@ TEST(Conversions, BytesAndObjectsHaveNoText) {
     expect_error_number(13, [] { static_cast<void>(to_text(Variant(ObjectRef()))); });
 }
 
+// Gives another object, itself if need be, as its default member.
+class Giving final : public Object {
+  public:
+    explicit Giving(Variant value = {}) : value_(std::move(value)) {}
+    Variant invoke(std::string_view, InvokeKind, Arguments) override { return {}; }
+    Variant default_value() override {
+        return value_.is<Empty>() ? Variant(ObjectRef(this)) : value_;
+    }
+    [[nodiscard]] std::string_view class_name() const noexcept override { return "Giving"; }
+
+  private:
+    Variant value_;
+};
+
+TEST(Conversions, ObjectsStandForTheirDefaultMembersToTheEnd) {
+    const Variant outer = ObjectRef(make_object<Giving>(ObjectRef(make_object<Giving>("12"))));
+    EXPECT_EQ(to_text(outer), "12");
+    EXPECT_EQ(to_int32(outer), 12);
+    EXPECT_EQ(plain_value(outer), Variant("12"));
+    EXPECT_EQ(plain_value(5), Variant(5));
+}
+
+TEST(Conversions, AnObjectThatGivesItselfIsError13) {
+    const Variant endless = ObjectRef(make_object<Giving>());
+    expect_error_number(13, [&] { static_cast<void>(to_text(endless)); });
+    expect_error_number(13, [&] { static_cast<void>(to_double(endless)); });
+    expect_error_number(13, [&] { static_cast<void>(to_boolean(endless)); });
+    expect_error_number(13, [&] { static_cast<void>(to_date(endless)); });
+}
+
 TEST(Conversions, IntegersRoundMidpointsToTheEvenNeighbour) {
     EXPECT_EQ(to_int32(Variant(2.5)), 2);
     EXPECT_EQ(to_int32(Variant(3.5)), 4);
