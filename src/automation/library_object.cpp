@@ -126,17 +126,15 @@ Variant LibraryObject::run(const Operation& operation, Variant* slots) {
     return result;
 }
 
-GuardLock::GuardLock(std::recursive_mutex* guard) : guard_(guard) {
-    if (guard_ != nullptr && !guard_->try_lock()) {
+void GuardLock::lock() {
+    if (!guard_->try_lock()) {
         const BlockingScope waiting;
         guard_->lock();
     }
 }
 
-GuardLock::~GuardLock() {
-    if (guard_ != nullptr) {
-        guard_->unlock();
-    }
+void GuardLock::unlock() {
+    guard_->unlock();
 }
 
 }  // namespace cvdeveloper

@@ -37,12 +37,23 @@ std::size_t place_of_argument(const Operation& operation, std::string_view name)
 // Holds a guard; a wait for it gives up the interpreter lock.
 class GuardLock {
   public:
-    explicit GuardLock(std::recursive_mutex* guard);
+    explicit GuardLock(std::recursive_mutex* guard) : guard_(guard) {
+        if (guard_ != nullptr) {
+            lock();
+        }
+    }
     GuardLock(const GuardLock&) = delete;
     GuardLock& operator=(const GuardLock&) = delete;
-    ~GuardLock();
+    ~GuardLock() {
+        if (guard_ != nullptr) {
+            unlock();
+        }
+    }
 
   private:
+    void lock();
+    void unlock();
+
     std::recursive_mutex* guard_;
 };
 
