@@ -6,16 +6,17 @@ import pytest
 
 from support import wine
 
-TESTS = wine.BUILD / "tests" / "cvdeveloper_windows_tests.exe"
-COMMAND = wine.BUILD / "bin" / "cvdev.exe"
+WINDOWS = wine.WINDOWS[64]
+TESTS = WINDOWS.build / "tests" / "cvdeveloper_windows_tests.exe"
+COMMAND = WINDOWS.build / "bin" / "cvdev.exe"
 
-REASON = wine.why_not(TESTS, COMMAND)
+REASON = WINDOWS.why_not(TESTS, COMMAND)
 pytestmark = pytest.mark.skipif(REASON is not None, reason=REASON or "")
 
 
 @pytest.fixture(scope="module")
 def windows():
-    prefix = wine.Prefix("platform")
+    prefix = wine.Prefix("platform", WINDOWS)
     yield prefix
     prefix.close()
 

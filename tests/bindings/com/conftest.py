@@ -2,28 +2,27 @@
 
 import shutil
 import subprocess
-from pathlib import Path
 
 import pytest
 
-from wine_prefix import ROOT, Prefix, Result, windows_path, why_not
+from wine_prefix import ROOT, WINDOWS, Prefix, Result, windows_path
 
 
-def pytest_collection_modifyitems(items):
-    reason = why_not()
-    if reason is None:
-        return
-    for item in items:
-        if Path(__file__).parent in item.path.parents:
-            item.add_marker(pytest.mark.skip(reason=reason))
+@pytest.fixture(scope="session", params=WINDOWS.values(), ids=lambda windows: f"{windows.bits} bit")
+def windows(request):
+    """Everything is tried with the 64-bit servers and with the 32-bit ones."""
+    reason = request.param.why_not(request.param.build / "bin" / "CVDeveloper.dll")
+    if reason is not None:
+        pytest.skip(reason)
+    return request.param
 
 
 @pytest.fixture(scope="session")
-def new_prefix():
+def new_prefix(windows):
     made = []
 
     def make(name: str) -> Prefix:
-        made.append(Prefix(name))
+        made.append(Prefix(name, windows))
         return made[-1]
 
     yield make

@@ -2,7 +2,7 @@
 
 import pytest
 
-from wine_prefix import BUILD, windows_path
+from wine_prefix import windows_path
 
 CLASSES = ("Application", "clsBase", "clsTools", "clsSalutationList", "clsPhoneList",
            "clsFileSystem")
@@ -37,7 +37,7 @@ def test_classes_are_known_after_registering_and_forgotten_after(fresh, root, fl
         assert class_id == known[f"{base}\\cvdeveloper.{name}.1\\clsid".lower()]
         assert known[f"{base}\\cvdeveloper.{name}\\curver".lower()] == f"CVDeveloper.{name}.1"
         key = f"{base}\\clsid\\{class_id}".lower()
-        dll = windows_path(BUILD / "bin" / "CVDeveloper.dll")
+        dll = windows_path(fresh.dll("CVDeveloper.dll"))
         assert known[f"{key}\\inprocserver32"].lower() == dll.lower()
         assert known[f"{key}\\progid"] == f"CVDeveloper.{name}.1"
         assert known[f"{key}\\versionindependentprogid"] == f"CVDeveloper.{name}"

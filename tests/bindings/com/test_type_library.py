@@ -4,7 +4,7 @@ import re
 
 import pytest
 
-from wine_prefix import BUILD, ROOT, windows_path
+from wine_prefix import ROOT, windows_path
 
 IDL = (ROOT / "bindings" / "com" / "cvdeveloper.idl").read_text(encoding="utf-8")
 OPERATION = re.compile(
@@ -40,7 +40,7 @@ def expected_operations() -> list[str]:
 
 @pytest.fixture(scope="module")
 def dump(prefix):
-    result = prefix.program("type_library_dump", windows_path(BUILD / "bin" / "CVDeveloper.dll"))
+    result = prefix.program("type_library_dump", windows_path(prefix.dll("CVDeveloper.dll")))
     assert result.code == 0, result.errors
     return result.lines
 

@@ -1,18 +1,19 @@
-"""The built servers, and prefixes to register and run them in."""
+"""Prefixes in which the built servers are registered and run."""
+
+from pathlib import Path
 
 from support import wine
-from support.wine import BUILD, ROOT, Result, windows_path
+from support.wine import ROOT, WINDOWS, Result, windows_path
 
-__all__ = ["BUILD", "ROOT", "Prefix", "Result", "why_not", "windows_path"]
-
-
-def why_not() -> str | None:
-    return wine.why_not(BUILD / "bin" / "CVDeveloper.dll")
+__all__ = ["ROOT", "WINDOWS", "Prefix", "Result", "windows_path"]
 
 
 class Prefix(wine.Prefix):
+    def dll(self, name: str) -> Path:
+        return self.windows.build / "bin" / name
+
     def program(self, name: str, *words) -> Result:
-        return self.run(BUILD / "tests" / f"{name}.exe", *words)
+        return self.run(self.windows.build / "tests" / f"{name}.exe", *words)
 
     def register(self, dll: str, *flags) -> Result:
-        return self.run("regsvr32", "/s", *flags, windows_path(BUILD / "bin" / dll))
+        return self.run("regsvr32", "/s", *flags, windows_path(self.dll(dll)))
