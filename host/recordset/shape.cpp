@@ -76,8 +76,9 @@ void Shape::choose_base() {
 
 void Shape::fill_index() {
     index_.assign(std::bit_ceil(columns_.size() * 2 + 1), 0);
+    keys_.reserve(columns_.size());
     for (std::size_t i = 0; i < columns_.size(); ++i) {
-        std::size_t slot = sql::hash_name(columns_[i].name);
+        std::size_t slot = keys_.emplace_back(columns_[i].name).hash();
         while (index_[slot & (index_.size() - 1)] != 0) {
             ++slot;
         }
@@ -86,10 +87,13 @@ void Shape::fill_index() {
 }
 
 std::size_t Shape::find_exactly(std::string_view name) const noexcept {
-    std::size_t slot = sql::hash_name(name);
+    const sql::NameKey key(name);
+    std::size_t slot = key.hash();
     while (const std::uint16_t entry = index_[slot & (index_.size() - 1)]) {
-        if (sql::equal_names(columns_[entry - 1U].name, name)) {
-            return entry - 1U;
+        const std::size_t position = entry - 1U;
+        if (keys_[position] == key &&
+            (key.says_all() || sql::equal_names(columns_[position].name, name))) {
+            return position;
         }
         ++slot;
     }

@@ -10,6 +10,7 @@
 
 #include "host/database/catalog.h"
 #include "host/database/database.h"
+#include "host/sql/names.h"
 
 namespace cvdeveloper::standalone {
 
@@ -68,6 +69,7 @@ class Shape {
     [[nodiscard]] std::size_t find_exactly(std::string_view name) const noexcept;
 
     std::vector<Column> columns_;
+    std::vector<sql::NameKey> keys_;  // of the columns' names
     std::shared_ptr<const Catalog> catalog_;
     std::shared_ptr<RecordSetOwner> owner_;
     const Table* base_ = nullptr;

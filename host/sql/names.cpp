@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 
 namespace cvdeveloper::standalone::sql {
 
@@ -44,7 +45,59 @@ std::string_view umlaut(char first, char second) noexcept {
     }
 }
 
+template <class T>
+std::uint64_t read(const char* place) noexcept {
+    T word;
+    std::memcpy(&word, place, sizeof word);
+    return word;
+}
+
+// A name of less than eight bytes as one number.
+std::uint64_t read_short(std::string_view name) noexcept {
+    const char* const data = name.data();
+    const std::size_t size = name.size();
+    if (size >= 4) {
+        return read<std::uint32_t>(data) | read<std::uint32_t>(data + size - 4) << 32U;
+    }
+    if (size == 0) {
+        return 0;
+    }
+    return read<std::uint8_t>(data) | read<std::uint8_t>(data + size / 2) << 8U |
+           read<std::uint8_t>(data + size - 1) << 16U;
+}
+
+constexpr std::uint64_t in_each_byte(unsigned char byte) noexcept {
+    return byte * 0x0101010101010101U;
+}
+
+// Tells capitals from small letters, umlauts included.
+constexpr std::uint64_t case_bits = in_each_byte(0x20);
+
+// The capital letters of eight bytes of ASCII made small.
+constexpr std::uint64_t with_small_letters(std::uint64_t word) noexcept {
+    const std::uint64_t from_a = word + in_each_byte(0x80 - 'A');
+    const std::uint64_t behind_z = word + in_each_byte(0x7F - 'Z');
+    return word | (from_a & ~behind_z & in_each_byte(0x80)) >> 2U;
+}
+
 }  // namespace
+
+NameKey::NameKey(std::string_view name) noexcept : size_(static_cast<std::uint32_t>(name.size())) {
+    if (name.size() < 8) {
+        first_ = read_short(name);
+    } else {
+        first_ = read<std::uint64_t>(name.data());
+        last_ = read<std::uint64_t>(name.data() + name.size() - 8);
+    }
+    says_all_ = name.size() <= 16 && ((first_ | last_) & in_each_byte(0x80)) == 0;
+    if (says_all_) {
+        first_ = with_small_letters(first_);
+        last_ = with_small_letters(last_);
+    } else {
+        first_ &= ~case_bits;
+        last_ &= ~case_bits;
+    }
+}
 
 std::string folded_name(std::string_view name) {
     std::string folded(name);
@@ -71,17 +124,6 @@ bool equal_names(std::string_view left, std::string_view right) noexcept {
         before_right = right[i];
     }
     return true;
-}
-
-std::size_t hash_name(std::string_view name) noexcept {
-    // The bit that tells capitals from small letters is left out for all letters, umlauts included:
-    // names that are equal have equal hashes, and others seldom differ in it alone.
-    constexpr unsigned char all_but_case = 0xDF;
-    std::uint64_t hash = 14695981039346656037U;
-    for (const char c : name) {
-        hash = (hash ^ (static_cast<unsigned char>(c) & all_but_case)) * 1099511628211U;
-    }
-    return static_cast<std::size_t>(hash);
 }
 
 std::string with_umlauts(std::string_view name) {
