@@ -29,31 +29,26 @@ void write(char* place, std::int64_t number, int digits) {
     }
 }
 
-// The number that so many digits make, or -1.
-int digits_at(std::string_view text, std::size_t position, std::size_t count) noexcept {
-    if (position + count > text.size()) {
-        return -1;
-    }
-    int number = 0;
-    for (const char c : text.substr(position, count)) {
-        if (c < '0' || c > '9') {
-            return -1;
-        }
-        number = number * 10 + (c - '0');
-    }
-    return number;
+// The number that the two digits at a place make; negative where they are none.
+int two_digits(const char* place) noexcept {
+    const int tens = place[0] - '0';
+    const int ones = place[1] - '0';
+    return tens >= 0 && tens <= 9 && ones >= 0 && ones <= 9 ? tens * 10 + ones : -10'000;
 }
 
 // "14:30", "14:30:00", "14:30:00.25" as a part of a day.
 std::optional<double> parse_time(std::string_view text) noexcept {
-    const int hours = digits_at(text, 0, 2);
-    const int minutes = digits_at(text, 3, 2);
+    if (text.size() < 5) {
+        return std::nullopt;
+    }
+    const int hours = two_digits(text.data());
+    const int minutes = two_digits(text.data() + 3);
     if (hours < 0 || hours > 23 || minutes < 0 || minutes > 59 || text[2] != ':') {
         return std::nullopt;
     }
     double seconds = 0;
     if (text.size() > 5) {
-        const int whole = digits_at(text, 6, 2);
+        const int whole = text.size() < 8 ? -1 : two_digits(text.data() + 6);
         if (text[5] != ':' || whole < 0 || whole > 59) {
             return std::nullopt;
         }
@@ -99,9 +94,12 @@ std::optional<std::string> date_text(Date date) {
 }
 
 std::optional<Date> parse_date_text(std::string_view text) noexcept {
-    const int the_year = digits_at(text, 0, 4);
-    const int the_month = digits_at(text, 5, 2);
-    const int the_day = digits_at(text, 8, 2);
+    if (text.size() < 10) {
+        return std::nullopt;
+    }
+    const int the_year = two_digits(text.data()) * 100 + two_digits(text.data() + 2);
+    const int the_month = two_digits(text.data() + 5);
+    const int the_day = two_digits(text.data() + 8);
     if (the_year < 100 || the_month < 1 || the_day < 1 || text[4] != '-' || text[7] != '-') {
         return std::nullopt;
     }

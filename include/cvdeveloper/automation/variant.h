@@ -59,8 +59,8 @@ class Variant {
     Variant(double value) noexcept : value_(value) {}
     Variant(Date value) noexcept : value_(value) {}
     Variant(std::string value) noexcept : value_(std::move(value)) {}
-    Variant(std::string_view value) : value_(std::string(value)) {}
-    Variant(const char* value) : value_(std::string(value)) {}
+    Variant(std::string_view value) : value_(std::in_place_type<std::string>, value) {}
+    Variant(const char* value) : value_(std::in_place_type<std::string>, value) {}
     Variant(Bytes value) noexcept : value_(std::move(value)) {}
     Variant(ObjectRef value) noexcept : value_(std::move(value)) {}
     template <std::derived_from<Object> T>
