@@ -2,54 +2,16 @@
 
 #include <algorithm>
 #include <cstring>
-#include <limits>
-#include <new>
-#include <stdexcept>
+#include <memory>
 
 namespace cvdeveloper::standalone {
-
-static_assert(sizeof(Cell) == 16);
-
-Value Cell::value() const noexcept {
-    switch (kind) {
-        case CellKind::Null:
-            break;
-        case CellKind::Integer:
-            return integer;
-        case CellKind::Double:
-            return number;
-        case CellKind::Text:
-            return text();
-        case CellKind::Bytes:
-            return std::as_bytes(std::span(data, size));
-    }
-    return std::monostate{};
-}
-
-bool same_content(const Cell& left, const Cell& right) noexcept {
-    if (left.kind != right.kind) {
-        return false;
-    }
-    switch (left.kind) {
-        case CellKind::Null:
-            return true;
-        case CellKind::Integer:
-            return left.integer == right.integer;
-        case CellKind::Double:
-            return left.number == right.number;
-        case CellKind::Text:
-        case CellKind::Bytes:
-            return left.text() == right.text();
-    }
-    return false;
-}
 
 std::byte* Rows::allocate_in_new_block(std::size_t size) {
     // Room for a handful of rows first, then ever larger blocks.
     const std::size_t first = std::max<std::size_t>(512, columns_ * sizeof(Cell) * 2);
     const std::size_t regular = next_block_ == 0 ? first : next_block_;
     next_block_ = std::min(regular * 2, std::max(BlockPool::block_size, first));
-    if (size > regular / 2) {
+    if (size > regular || (free_ != nullptr && size > regular / 2)) {
         // A piece of its own; what is left of the present block stays in use.
         blocks_.push_back(std::make_unique_for_overwrite<std::byte[]>(size));
         return blocks_.back().get();
@@ -78,57 +40,78 @@ Cell* Rows::allocate_cells() {
     return reinterpret_cast<Cell*>(allocate(std::max<std::size_t>(columns_, 1) * sizeof(Cell)));
 }
 
-std::span<Cell> Rows::append() {
-    const std::span<Cell> cells = append_to_be_set();
-    std::uninitialized_value_construct_n(cells.data(), columns_);
-    return cells;
-}
-
-std::span<Cell> Rows::append_to_be_set() {
-    Cell* const cells = allocate_cells();
-    if (first_row_ == nullptr) {
-        first_row_ = cells;
+void Rows::add_row(Place place) {
+    if (first_row_.cells == nullptr) {
+        first_row_ = place;
     } else {
-        other_rows_.push_back(cells);
+        other_rows_.push_back(place);
     }
-    return {cells, columns_};
 }
 
-std::span<Cell> Rows::keep_copy(std::span<const Cell> cells) {
-    Cell* const copy = allocate_cells();
-    std::ranges::uninitialized_copy(cells, std::span(copy, columns_));
-    return {copy, columns_};
+// Rows of one result mostly have their nulls in the same columns: these are looked at first.
+const CellPlace* Rows::keep_places(std::span<const CellPlace> places) {
+    if (last_places_ == nullptr ||
+        std::memcmp(last_places_, places.data(), places.size_bytes()) != 0) {
+        auto* const kept = reinterpret_cast<CellPlace*>(allocate(places.size_bytes()));
+        std::ranges::uninitialized_copy(places, std::span(kept, places.size()));
+        last_places_ = kept;
+    }
+    return last_places_;
 }
 
-const char* Rows::keep(const void* data, std::size_t size) {
-    if (size > std::numeric_limits<std::uint32_t>::max()) {
-        throw std::length_error("value of more than 4 GB");
+void Rows::append(RowInHand row) {
+    const std::span<const Cell> cells = row.cells();
+    std::byte* const piece =
+        allocate(std::max<std::size_t>(cells.size_bytes() + row.content_size(), 1));
+    const std::span kept(reinterpret_cast<Cell*>(piece), cells.size());
+    char* content = reinterpret_cast<char*>(piece) + cells.size_bytes();
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        Cell& cell = *std::construct_at(&kept[i], cells[i]);
+        if (cell.has_content()) {
+            if (cell.size != 0) {
+                std::memcpy(content, cell.data, cell.size);
+            }
+            cell.data = content;
+            content += cell.size;
+        }
     }
-    if (size == 0) {
+    add_row({cells.size() == columns_ ? nullptr : keep_places(row.places()), kept.data()});
+}
+
+std::span<Cell> Rows::append_editable(std::span<const Cell> cells) {
+    const std::span kept(allocate_cells(), columns_);
+    std::ranges::uninitialized_copy(cells, kept);
+    add_row({nullptr, kept.data()});
+    return kept;
+}
+
+std::span<Cell> Rows::edit(std::size_t row) {
+    const Row before = (*this)[row];
+    const std::span kept(allocate_cells(), columns_);
+    for (std::size_t i = 0; i < columns_; ++i) {
+        std::construct_at(&kept[i], before[i]);
+    }
+    (row == 0 ? first_row_ : other_rows_[row - 1]) = {nullptr, kept.data()};
+    return kept;
+}
+
+std::string_view Rows::keep(std::string_view content) {
+    if (content.empty()) {
         return "";
     }
-    std::byte* const place = allocate(size);
-    std::memcpy(place, data, size);
-    return reinterpret_cast<const char*>(place);
-}
-
-void Rows::set_text(Cell& cell, std::string_view text) {
-    const char* const kept = keep(text.data(), text.size());
-    cell.data = kept;
-    cell.size = static_cast<std::uint32_t>(text.size());
-    cell.kind = CellKind::Text;
+    auto* const place = reinterpret_cast<char*>(allocate(content.size()));
+    std::memcpy(place, content.data(), content.size());
+    return {place, content.size()};
 }
 
 void Rows::set_bytes(Cell& cell, std::span<const std::byte> bytes) {
-    const char* const kept = keep(bytes.data(), bytes.size());
-    cell.data = kept;
-    cell.size = static_cast<std::uint32_t>(bytes.size());
-    cell.kind = CellKind::Bytes;
+    borrow_content(cell, keep({reinterpret_cast<const char*>(bytes.data()), bytes.size()}),
+                   CellKind::Bytes);
 }
 
 void Rows::keep_content(Cell& cell) {
-    if (cell.kind == CellKind::Text || cell.kind == CellKind::Bytes) {
-        cell.data = keep(cell.data, cell.size);
+    if (cell.has_content()) {
+        cell.data = keep(cell.text()).data();
     }
 }
 

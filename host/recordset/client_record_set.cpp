@@ -32,7 +32,7 @@ void ClientRecordSet::require_open() const {
 
 void ClientRecordSet::require_current_row() const {
     require_open();
-    if (before_first_ || at_ >= rows_.size()) {
+    if (!is_on_row()) {
         raise(HostError::NoCurrentRow,
               rows_.size() == 0
                   ? "Das Recordset aus " + std::string(shape_->table_name()) + " ist leer (EOF)."
@@ -112,7 +112,7 @@ void ClientRecordSet::move_last() {
     at_ = last == 0 ? rows_.size() : last - 1;
 }
 
-void ClientRecordSet::note_change(RowState state, std::span<const Cell> original) {
+void ClientRecordSet::note_change(RowState state, Row original) {
     if (states_.size() < rows_.size()) {
         states_.resize(rows_.size(), RowState::Unchanged);
     }
@@ -124,7 +124,7 @@ void ClientRecordSet::note_change(RowState state, std::span<const Cell> original
 
 void ClientRecordSet::add_new() {
     require_open();
-    std::ranges::copy(shape_->new_row(), rows_.append().begin());
+    rows_.append_editable(shape_->new_row());
     at_ = rows_.size() - 1;
     before_first_ = false;
     note_change(RowState::Added, {});
@@ -176,15 +176,6 @@ std::size_t ClientRecordSet::position_of(const Variant& name_or_position) const 
                                            " nicht.");
     }
     return static_cast<std::size_t>(position);
-}
-
-const Cell& ClientRecordSet::current_cell(std::size_t position) const {
-    require_current_row();
-    return rows_[at_][position];
-}
-
-const Cell* ClientRecordSet::current_cell_if_any(std::size_t position) const noexcept {
-    return before_first_ || at_ >= rows_.size() ? nullptr : &rows_[at_][position];
 }
 
 Variant ClientRecordSet::value(std::string_view name) {
@@ -268,10 +259,11 @@ void ClientRecordSet::require_writable(std::size_t position) const {
 
 void ClientRecordSet::write(std::size_t position, Cell written) {
     if (state(at_) == RowState::Unchanged) {
-        note_change(RowState::Changed, rows_.keep_copy(rows_[at_]));
+        note_change(RowState::Changed, rows_[at_]);
+        rows_.edit(at_);
     }
     written.changed = true;
-    rows_[at_][position] = written;
+    rows_.editable(at_)[position] = written;
 }
 
 void ClientRecordSet::mark_saved(const SavedChanges& saved) {
@@ -285,11 +277,12 @@ void ClientRecordSet::mark_saved(const SavedChanges& saved) {
             continue;
         }
         states_[row] = RowState::Unchanged;
-        for (Cell& cell : rows_[row]) {
+        const std::span<Cell> cells = rows_.editable(row);
+        for (Cell& cell : cells) {
             cell.changed = false;
         }
         if (shape_->version() != Shape::npos) {
-            Rows::set_integer(rows_[row][shape_->version()], saved.versions[i]);
+            set_integer(cells[shape_->version()], saved.versions[i]);
         }
     }
     changes_.clear();
@@ -299,11 +292,11 @@ void ClientRecordSet::show_host_value(const HostValue& value) {
     for (std::size_t i = 0; i < shape_->columns().size(); ++i) {
         const Column& column = shape_->columns()[i];
         if (column.writable && column.table_column == value.column) {
-            Cell& cell = rows_[value.row][i];
+            Cell& cell = rows_.editable(value.row)[i];
             if (value.text) {
                 rows_.set_text(cell, *value.text);
             } else {
-                Rows::set_null(cell);
+                set_null(cell);
             }
         }
     }

@@ -71,24 +71,33 @@ class ClientRecordSet final : public LibraryObject, public host::RecordSet {
     // For Fields, Field and the session.
     struct Change {
         std::size_t row;
-        std::span<const Cell> original;  // the row as it was read; empty for an added one
+        Row original;  // as it was read; empty for an added one
     };
     [[nodiscard]] const Shape& shape() const noexcept { return *shape_; }
     [[nodiscard]] std::span<const Change> changes() const noexcept { return changes_; }
     [[nodiscard]] RowState state(std::size_t row) const noexcept;
-    [[nodiscard]] std::span<const Cell> cells(std::size_t row) const noexcept { return rows_[row]; }
+    [[nodiscard]] Row cells(std::size_t row) const noexcept { return rows_[row]; }
     // All changes are in the database.
     void mark_saved(const SavedChanges& saved);
 
     [[nodiscard]] std::size_t position_of(const Variant& name_or_position) const;
-    [[nodiscard]] const Cell& current_cell(std::size_t position) const;
+    [[nodiscard]] const Cell& current_cell(std::size_t position) const {
+        if (!is_on_row()) {
+            require_current_row();
+        }
+        return rows_[at_][position];
+    }
     // The same, or nullptr where there is no current row.
-    [[nodiscard]] const Cell* current_cell_if_any(std::size_t position) const noexcept;
+    [[nodiscard]] const Cell* current_cell_if_any(std::size_t position) const noexcept {
+        return is_on_row() ? &rows_[at_][position] : nullptr;
+    }
     void set_at(std::size_t position, const Variant& value);
 
   private:
     [[nodiscard]] std::size_t position_of(std::string_view name) const;
     [[nodiscard]] bool is_visible(std::size_t row) const noexcept;
+    // A closed record set has no rows.
+    [[nodiscard]] bool is_on_row() const noexcept { return !before_first_ && at_ < rows_.size(); }
     void require_open() const;
     void require_current_row() const;
     // Which fields of record sets of one shape go where, found once for all rows.
@@ -107,7 +116,7 @@ class ClientRecordSet final : public LibraryObject, public host::RecordSet {
     void require_writable(std::size_t position) const;
     void write(std::size_t position, Cell written);
     void show_host_value(const HostValue& value);
-    void note_change(RowState state, std::span<const Cell> original);
+    void note_change(RowState state, Row original);
 
     std::shared_ptr<const Shape> shape_;
     Rows rows_;

@@ -129,7 +129,7 @@ void assign(Rows& rows, Cell& cell, const Column& column, const Variant& value) 
         if (column.required) {
             refuse(column, "ist ein Pflichtfeld und nimmt kein Null auf.");
         }
-        Rows::set_null(cell);
+        set_null(cell);
         return;
     }
     switch (column.type.type) {
@@ -147,13 +147,13 @@ void assign(Rows& rows, Cell& cell, const Column& column, const Variant& value) 
             assign_bytes(rows, cell, column, value);
             break;
         case ColumnType::Int16:
-            Rows::set_integer(cell, converted(column, value, "eine ganze Zahl (16 Bit)", to_int16));
+            set_integer(cell, converted(column, value, "eine ganze Zahl (16 Bit)", to_int16));
             break;
         case ColumnType::Int32:
-            Rows::set_integer(cell, converted(column, value, "eine ganze Zahl (32 Bit)", to_int32));
+            set_integer(cell, converted(column, value, "eine ganze Zahl (32 Bit)", to_int32));
             break;
         case ColumnType::Double:
-            Rows::set_double(cell, converted(column, value, "eine Zahl", to_double));
+            set_double(cell, converted(column, value, "eine Zahl", to_double));
             break;
         case ColumnType::Date:
             assign_date(rows, cell, column, value);

@@ -37,7 +37,7 @@ void append_name(std::string& text, std::string_view name) {
 
 // "... WHERE DSN=?" and, where the version was read, "AND STAMP=?".
 void append_identity(std::string& text, std::vector<Value>& values, const Shape& shape,
-                     std::span<const Cell> original) {
+                     const Row& original) {
     text += " WHERE \"DSN\"=?";
     values.push_back(original[shape.key()].value());
     if (shape.version() != Shape::npos) {
@@ -159,7 +159,7 @@ std::int64_t RowWriter::execute() {
 std::int64_t RowWriter::insert(const ClientRecordSet& record_set, std::size_t row,
                                std::span<const HostValue> host_values) {
     const Shape& shape = record_set.shape();
-    const auto cells = record_set.cells(row);
+    const Row cells = record_set.cells(row);
     text_ = "INSERT INTO ";
     append_name(text_, shape.base()->name());
     values_.clear();
@@ -197,7 +197,7 @@ std::int64_t RowWriter::update(const ClientRecordSet& record_set,
                                const ClientRecordSet::Change& change,
                                std::span<const HostValue> host_values) {
     const Shape& shape = record_set.shape();
-    const auto cells = record_set.cells(change.row);
+    const Row cells = record_set.cells(change.row);
     const bool has_version = shape.version() != Shape::npos;
     const std::int64_t version = has_version ? change.original[shape.version()].integer + 1 : 0;
     text_ = "UPDATE ";

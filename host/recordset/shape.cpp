@@ -123,10 +123,10 @@ void Shape::fill_new_row() {
             new_row_[i].kind = CellKind::Text;
         } else if (const auto [stop, error] = std::from_chars(text.data(), end, whole);
                    error == std::errc() && stop == end) {
-            Rows::set_integer(new_row_[i], whole);
+            set_integer(new_row_[i], whole);
         } else if (const auto [rest, failure] = std::from_chars(text.data(), end, number);
                    failure == std::errc() && rest == end) {
-            Rows::set_double(new_row_[i], number);
+            set_double(new_row_[i], number);
         }
     }
 }

@@ -107,8 +107,8 @@ std::vector<std::string> AddressRule::numbers_of(std::string_view address) {
         return {};
     }
     std::vector<std::string> numbers = numbers_in(text_of(rows[0][0]));
-    for (const Cell& cell : rows[0].subspan(1)) {
-        if (const std::string_view address_text = trim_blanks(text_of(cell));
+    for (std::size_t i = 1; i < reached_by.size(); ++i) {
+        if (const std::string_view address_text = trim_blanks(text_of(rows[0][i]));
             !address_text.empty()) {
             numbers.emplace_back(address_text);
         }

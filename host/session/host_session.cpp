@@ -182,9 +182,10 @@ HostSession::Statements::Entry HostSession::prepare(std::string_view text, std::
 void HostSession::fill_in_numbers(const Read& read, Rows& rows) {
     const auto fill = [&] {
         for (std::size_t row = 0; row < rows.size(); ++row) {
+            const std::span<Cell> cells = rows.edit(row);
             for (const std::size_t column : read.counters) {
                 const std::string& counter = read.shape->columns()[column].name_in_table();
-                rows.set_text(rows[row][column],
+                rows.set_text(cells[column],
                               read.takes_numbers ? numbers_.take(counter) : numbers_.last(counter));
             }
         }

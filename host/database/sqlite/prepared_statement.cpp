@@ -57,7 +57,8 @@ PreparedStatement::PreparedStatement(Connection& connection, Handle handle, Auth
     : connection_(connection),
       handle_(std::move(handle)),
       author_(author),
-      writes_(sqlite3_stmt_readonly(handle_.get()) == 0) {
+      writes_(sqlite3_stmt_readonly(handle_.get()) == 0),
+      room_(static_cast<std::size_t>(sqlite3_column_count(handle_.get()))) {
     const int count = sqlite3_column_count(handle_.get());
     columns_.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
@@ -101,33 +102,35 @@ void PreparedStatement::query(std::span<const Value> values, Rows& rows) {
     }
 }
 
-void PreparedStatement::read_row(Rows& rows) const {
-    int column = 0;
-    for (Cell& place : rows.append_to_be_set()) {
-        Cell& cell = *std::construct_at(&place);
+void PreparedStatement::read_row(Rows& rows) {
+    RowInHand row(room_);
+    const int count = static_cast<int>(columns_.size());
+    for (int column = 0; column < count; ++column) {
         // One look-up a field; safe, because the connection belongs to one thread at a time.
-        sqlite3_value* const value = sqlite3_column_value(handle_.get(), column++);
+        sqlite3_value* const value = sqlite3_column_value(handle_.get(), column);
         switch (sqlite3_value_type(value)) {
             case SQLITE_INTEGER:
-                Rows::set_integer(cell, sqlite3_value_int64(value));
+                row.add_integer(sqlite3_value_int64(value));
                 break;
             case SQLITE_FLOAT:
-                Rows::set_double(cell, sqlite3_value_double(value));
+                row.add_double(sqlite3_value_double(value));
                 break;
             case SQLITE_TEXT: {
                 const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
-                rows.set_text(cell, {text, static_cast<std::size_t>(sqlite3_value_bytes(value))});
+                row.add_text({text, static_cast<std::size_t>(sqlite3_value_bytes(value))});
                 break;
             }
             case SQLITE_BLOB: {
-                const auto* bytes = static_cast<const std::byte*>(sqlite3_value_blob(value));
-                rows.set_bytes(cell, {bytes, static_cast<std::size_t>(sqlite3_value_bytes(value))});
+                const auto* bytes = static_cast<const char*>(sqlite3_value_blob(value));
+                row.add_bytes({bytes, static_cast<std::size_t>(sqlite3_value_bytes(value))});
                 break;
             }
             default:
+                row.add_null();
                 break;
         }
     }
+    rows.append(row);
 }
 
 std::int64_t PreparedStatement::execute(std::span<const Value> values) {

@@ -27,7 +27,7 @@ class PreparedStatement final : public Statement {
 
   private:
     void bind(std::span<const Value> values);
-    void read_row(Rows& rows) const;
+    void read_row(Rows& rows);
     // Steps once; true while there is a row. Failures are raised after the reset.
     bool step();
 
@@ -36,6 +36,7 @@ class PreparedStatement final : public Statement {
     Author author_;
     bool writes_;
     std::vector<ResultColumn> columns_;
+    RowRoom room_;
 };
 
 }  // namespace cvdeveloper::standalone::sqlite

@@ -142,7 +142,8 @@ class Injection : public StandaloneApplicationTest {
             statement->query({}, rows);
             all += table->name() + "\n";
             for (std::size_t row = 0; row < rows.size(); ++row) {
-                for (const Cell& cell : rows[row]) {
+                for (std::size_t column = 0; column < rows.columns(); ++column) {
+                    const Cell& cell = rows[row][column];
                     all += cell.kind == CellKind::Text      ? std::string(cell.text())
                            : cell.kind == CellKind::Integer ? std::to_string(cell.integer)
                            : cell.kind == CellKind::Double  ? std::to_string(cell.number)
