@@ -28,6 +28,7 @@ class PreparedStatement final : public Statement {
   private:
     void bind(std::span<const Value> values);
     void read_row(Rows& rows);
+    [[nodiscard]] std::span<sqlite3_value* const> values_of_row();
     // Steps once; true while there is a row. Failures are raised after the reset.
     bool step();
 
@@ -36,6 +37,7 @@ class PreparedStatement final : public Statement {
     Author author_;
     bool writes_;
     std::vector<ResultColumn> columns_;
+    std::vector<sqlite3_value*> values_;  // where the row before was
     RowRoom room_;
 };
 

@@ -64,6 +64,40 @@ TEST_F(AStatement, GivesEveryValueInItsKind) {
     EXPECT_EQ(run(*statement), expected);
 }
 
+TEST_F(AStatement, GivesInWholeRowsWhatItGivesColumnByColumn) {
+    constexpr int columns = 60;
+    std::string all;
+    for (int i = 0; i < columns; ++i) {
+        all += (i == 0 ? "c" : ",c") + std::to_string(i);
+    }
+    // Numbers by which kind, nulls and length seem to be anything.
+    std::string values;
+    for (int i = 0; i < columns; ++i) {
+        const std::string number = "(i * 7919 + " + std::to_string(i * i * 104729) + ")";
+        values += (i == 0 ? "" : ",");
+        values += "CASE " + number + " % 11 WHEN 0 THEN i WHEN 1 THEN i / 8.0 WHEN 2 THEN '' " +
+                  "WHEN 3 THEN printf('%.*c', " + number + " % 300, 'x') " +
+                  "WHEN 4 THEN zeroblob(i % 50) WHEN 5 THEN 'k' || i END";
+    }
+    database.run_script("CREATE TABLE w (" + all +
+                        "); INSERT INTO w WITH n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
+                        "LIMIT 300) SELECT " +
+                        values + " FROM n");
+    for (const std::string order : {"rowid", "rowid % 7, rowid"}) {
+        const Lines whole = run(*prepare("SELECT * FROM w ORDER BY " + order));
+        Lines by_column(whole.size());
+        for (int i = 0; i < columns; ++i) {
+            const auto one = prepare("SELECT c" + std::to_string(i) + " FROM w ORDER BY " + order);
+            const Lines fields = run(*one);
+            ASSERT_EQ(fields.size(), whole.size());
+            for (std::size_t row = 0; row < fields.size(); ++row) {
+                by_column[row] += fields[row];
+            }
+        }
+        EXPECT_EQ(whole, by_column);
+    }
+}
+
 TEST_F(AStatement, GivesTheRowsOfAllItsParts) {
     const auto statement = prepare(
         "SELECT a, b FROM t WHERE a < 3 UNION ALL SELECT 'x', c FROM t UNION ALL "
