@@ -37,6 +37,7 @@ class PreparedStatement final : public Statement {
     Author author_;
     bool writes_;
     std::vector<ResultColumn> columns_;
+    bool places_stay_;  // this is the version of SQLite that this was built and tested with
     std::vector<sqlite3_value*> values_;  // where the row before was
     RowRoom room_;
 };
