@@ -73,6 +73,11 @@ constexpr bool is_ascii(char c) noexcept {
     return static_cast<unsigned char>(c) < 0x80;
 }
 
+// No part of a longer character, and no blank, which may be one of those at the end.
+constexpr bool decides(char c) noexcept {
+    return is_ascii(c) && c != ' ';
+}
+
 inline std::string_view without_trailing_blanks(std::string_view text) noexcept {
     while (!text.empty() && text.back() == ' ') {
         text.remove_suffix(1);
@@ -101,32 +106,29 @@ class Folded {
     std::size_t at_ = 0;
 };
 
-// How many bytes at the beginning are the same ASCII characters, in steps of eight.
-std::size_t same_ascii(std::string_view left, std::string_view right) noexcept {
-    constexpr std::uint64_t beyond_ascii = 0x8080808080808080;
-    const std::size_t common = std::min(left.size(), right.size());
+// Where the texts differ first, in steps of eight bytes; the shorter one's size where they do not.
+std::size_t first_difference(const char* left, const char* right, std::size_t common) noexcept {
     std::size_t at = 0;
-    while (at + sizeof(std::uint64_t) <= common) {
+    for (; at + sizeof(std::uint64_t) <= common; at += sizeof(std::uint64_t)) {
         std::uint64_t a = 0;
         std::uint64_t b = 0;
-        std::memcpy(&a, left.data() + at, sizeof a);
-        std::memcpy(&b, right.data() + at, sizeof b);
-        if (((a | b) & beyond_ascii) != 0) {
-            break;
-        }
+        std::memcpy(&a, left + at, sizeof a);
+        std::memcpy(&b, right + at, sizeof b);
         if (a != b) {
             // The bytes of a word lie in the order of the text on every machine we build for.
             static_assert(std::endian::native == std::endian::little);
             return at + static_cast<std::size_t>(std::countr_zero(a ^ b)) / 8;
         }
-        at += sizeof a;
+    }
+    while (at < common && left[at] == right[at]) {
+        ++at;
     }
     return at;
 }
 
-int compare_from(std::string_view left, std::string_view right) noexcept {
-    Folded one(left);
-    Folded other(right);
+int compare_whole(std::string_view left, std::string_view right) noexcept {
+    Folded one(without_trailing_blanks(left));
+    Folded other(without_trailing_blanks(right));
     int letters = 0;  // the first difference that is only one of accents
     while (!one.at_end() && !other.at_end()) {
         const char32_t a = one.next();
@@ -195,21 +197,27 @@ bool matches(std::string_view text, std::string_view pattern, char32_t escape) n
 
 }  // namespace
 
+// Keys and most texts are told apart by one ASCII character: what is the same before it reads alike
+// whatever it is, and behind it nothing counts. Everything else is read from the beginning.
 int compare_texts(std::string_view left, std::string_view right) noexcept {
-    const std::string_view one = without_trailing_blanks(left);
-    const std::string_view other = without_trailing_blanks(right);
-    // Keys and most texts are ASCII: the first difference decides.
-    const std::size_t common = std::min(one.size(), other.size());
-    std::size_t at = same_ascii(one, other);
-    while (at < common && is_ascii(one[at]) && is_ascii(other[at])) {
-        const std::uint8_t a = ascii_folded[static_cast<unsigned char>(one[at])];
-        const std::uint8_t b = ascii_folded[static_cast<unsigned char>(other[at])];
-        if (a != b) {
-            return a < b ? -1 : 1;
+    const std::size_t common = std::min(left.size(), right.size());
+    const std::size_t at = first_difference(left.data(), right.data(), common);
+    if (at < common) {
+        if (decides(left[at]) && decides(right[at])) {
+            const std::uint8_t a = ascii_folded[static_cast<unsigned char>(left[at])];
+            const std::uint8_t b = ascii_folded[static_cast<unsigned char>(right[at])];
+            if (a != b) {
+                return a < b ? -1 : 1;
+            }
         }
-        ++at;
+    } else if (left.size() == right.size()) {
+        return 0;
+    } else if (left.size() > common && decides(left[common])) {
+        return 1;
+    } else if (right.size() > common && decides(right[common])) {
+        return -1;
     }
-    return compare_from(one.substr(at), other.substr(at));
+    return compare_whole(left, right);
 }
 
 bool is_like(std::string_view text, std::string_view pattern, char32_t escape) noexcept {

@@ -58,6 +58,26 @@ TEST(TextOrder, IsAnOrder) {
     }
 }
 
+// Texts are compared in steps of eight bytes up to their first difference.
+TEST(TextOrder, IsTheSameBehindACommonBeginning) {
+    std::mt19937 random(5);
+    const std::vector<std::string> letters = {"a", "A", "ä", "Ä", "b", " ", "\t", "ß", "-", "中"};
+    const auto word = [&](std::size_t length) {
+        std::string text;
+        for (std::size_t i = 0; i < length; ++i) {
+            text += letters[random() % letters.size()];
+        }
+        return text;
+    };
+    for (int round = 0; round < 20000; ++round) {
+        const std::string beginning = word(random() % 20) + "x";
+        const std::string a = word(random() % 12);
+        const std::string b = word(random() % 12);
+        ASSERT_EQ(compare_texts(beginning + a, beginning + b), compare_texts(a, b))
+            << beginning << "|" << a << "|" << b;
+    }
+}
+
 TEST(Like, KnowsItsWildcards) {
     EXPECT_TRUE(is_like("landDE  ", "land%", 0));
     EXPECT_TRUE(is_like("Müller", "MÜ_LER", 0));
