@@ -1,10 +1,13 @@
 #include "cvdeveloper/data/diagnostic_log.h"
 
+#include <optional>
+
 #include "cvdeveloper/automation/class_registry.h"
 #include "cvdeveloper/automation/error.h"
 #include "platform/clock.h"
 #include "platform/file_operations.h"
 #include "platform/files.h"
+#include "platform/paths.h"
 #include "platform/regional.h"
 #include "platform/text.h"
 
@@ -12,21 +15,44 @@ namespace cvdeveloper {
 
 namespace {
 
-// The folder of the log, without a separator at its end. A component that is missing or fails
-// leaves the folder as it stands.
-std::string log_folder(const std::string& log_path) {
-    std::string folder = log_path;
-    try {
-        const host::Bound<host::StandardUtil> standard(create_object("clqexStdC10.cUtil"));
-        if (folder.empty() || !files::folder_exists(folder)) {
-            folder = standard->GetTempPath();
+// The log that one line goes to. A log that can be opened shows that its folder is one: then the
+// disk is not asked about the folder, which takes as long as opening the file.
+class Log {
+  public:
+    explicit Log(const std::string& log_path) : path_(log_path) {
+        try {
+            find_folder(log_path);
+        } catch (const AutomationError&) {
+            // A component that is missing or fails leaves the folder as it stands.
         }
-        standard->CutRight(folder, "\\");
-    } catch (const AutomationError&) {
-        return folder;
+        if (opened_ &&
+            paths::without_end_separators(path_) != paths::without_end_separators(log_path)) {
+            opened_.reset();
+        }
+        path_.append(file_name);
     }
-    return folder;
-}
+
+    bool append(std::string_view line) {
+        return opened_ ? files::append_line(*opened_, line) : files::append_line(path_, line);
+    }
+
+  private:
+    static constexpr std::string_view file_name = "\\cvDeveloper.log";
+
+    void find_folder(const std::string& log_path) {
+        const host::Bound<host::StandardUtil> standard(create_object("clqexStdC10.cUtil"));
+        if (!log_path.empty()) {
+            opened_ = files::OutputFile::existing(joined({log_path, file_name}));
+        }
+        if (log_path.empty() || (!opened_ && !files::folder_exists(log_path))) {
+            path_ = standard->GetTempPath();
+        }
+        standard->CutRight(path_, "\\");
+    }
+
+    std::string path_;  // of the folder at first, then of the file
+    std::optional<files::OutputFile> opened_;
+};
 
 constexpr Parameter log_parameters[] = {
     {.name = "strProcName", .help = "what the line is about, as a rule an operation's name"},
@@ -100,11 +126,11 @@ std::span<const Operation> DiagnosticLog::operations() noexcept {
 void DiagnosticLog::DoLog(std::string_view strProcName, std::string_view strMessageString) const {
     constexpr std::size_t units_of_second_try = 300;
     try {
-        const std::string file = log_folder(session().log_path) + "\\cvDeveloper.log";
-        std::string line = regional::general_date(now());
-        line.append(" - ").append(strProcName).append(" : ").append(strMessageString);
-        if (!files::append_line(file, line)) {
-            files::append_line(file, std::string(first_units(line, units_of_second_try)) + " ...");
+        Log log(session().log_path);
+        const std::string line =
+            joined({regional::general_date(now()), " - ", strProcName, " : ", strMessageString});
+        if (!log.append(line)) {
+            log.append(joined({first_units(line, units_of_second_try), " ..."}));
         }
     } catch (const Interrupt&) {
         throw;

@@ -194,7 +194,16 @@ void remove_folders(std::string_view path) {
 
 bool append_line(std::string_view path, std::string_view line) {
     try {
-        OutputFile(path, OutputFile::Mode::Append).write(to_code_page(line) + "\r\n");
+        OutputFile file(path, OutputFile::Mode::Append);
+        return append_line(file, line);
+    } catch (const AutomationError&) {
+        return false;
+    }
+}
+
+bool append_line(OutputFile& file, std::string_view line) {
+    try {
+        file.write(to_code_page(line).append("\r\n"));
         return true;
     } catch (const AutomationError&) {
         return false;

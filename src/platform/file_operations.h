@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/files.h"
+
 // The scripting runtime's file operations: several files or folders at once through wildcards in
 // the last part of the path. The first failure ends an operation; what was done stays done.
 namespace cvdeveloper::files {
@@ -26,6 +28,8 @@ void remove_folders(std::string_view path);
 // Adds the line, in the system's code page, and CR LF in one piece, so that lines of several
 // processes do not mix; makes the file where it is missing. False where that failed.
 bool append_line(std::string_view path, std::string_view line);
+// The same for a file that is open for appending.
+bool append_line(OutputFile& file, std::string_view line);
 
 // Of all files in the folder and below, through no link.
 double total_size(std::string_view folder);

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "cvdeveloper/automation/date.h"
@@ -68,13 +70,25 @@ class OutputFile {
     enum class Mode : std::uint8_t { CreateNew, Overwrite, Append };
 
     OutputFile(std::string_view path, Mode mode);
-    OutputFile(const OutputFile&) = delete;
-    OutputFile& operator=(const OutputFile&) = delete;
+    OutputFile(OutputFile&& other) noexcept
+        : path_(std::move(other.path_)), handle_(std::exchange(other.handle_, closed)) {}
+    OutputFile& operator=(OutputFile&& other) noexcept {
+        std::swap(path_, other.path_);
+        std::swap(handle_, other.handle_);
+        return *this;
+    }
     ~OutputFile();
+
+    // Opens a file for appending that is there already; nothing where that is not possible.
+    static std::optional<OutputFile> existing(std::string_view path);
 
     void write(std::string_view text);
 
   private:
+    static constexpr std::intptr_t closed = -1;
+
+    OutputFile(std::string_view path, std::intptr_t handle) : path_(path), handle_(handle) {}
+
     std::string path_;
     std::intptr_t handle_;  // the system's
 };

@@ -70,8 +70,19 @@ OutputFile::OutputFile(std::string_view path, Mode mode)
     }
 }
 
+std::optional<OutputFile> OutputFile::existing(std::string_view path) {
+    if (!is_possible(path)) {
+        return std::nullopt;
+    }
+    const int opened = open(native(path).c_str(), O_WRONLY | O_CLOEXEC | O_APPEND);
+    return opened < 0 ? std::nullopt
+                      : std::optional(OutputFile(path, static_cast<std::intptr_t>(opened)));
+}
+
 OutputFile::~OutputFile() {
-    close(static_cast<int>(handle_));
+    if (handle_ != closed) {
+        close(static_cast<int>(handle_));
+    }
 }
 
 void OutputFile::write(std::string_view text) {

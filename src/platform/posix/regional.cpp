@@ -1,6 +1,8 @@
 #include "platform/regional.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <string>
@@ -17,15 +19,34 @@ constexpr char decimal_point = ',';
 constexpr char group_separator = '.';
 constexpr int default_decimals = 2;
 
-std::string padded(int number, std::size_t places) {
-    std::string text = std::to_string(number);
-    text.insert(text.begin(), places - std::min(places, text.size()), '0');
-    return text;
+void append_padded(std::string& text, int number, std::size_t places) {
+    std::array<char, 12> digits{};
+    const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    const auto size = static_cast<std::size_t>(end - digits.data());
+    text.append(places - std::min(places, size), '0').append(digits.data(), size);
 }
 
-std::string short_date(Date date) {
-    const CalendarDate day = calendar_date(date);
-    return padded(day.day, 2) + '.' + padded(day.month, 2) + '.' + padded(day.year, 4);
+void append_date(std::string& text, const CalendarDate& day) {
+    append_padded(text, day.day, 2);
+    append_padded(text += '.', day.month, 2);
+    append_padded(text += '.', day.year, 4);
+}
+
+void append_short_time(std::string& text, const TimeOfDay& time) {
+    append_padded(text, time.hour, 2);
+    append_padded(text += ':', time.minute, 2);
+}
+
+void append_long_time(std::string& text, const TimeOfDay& time) {
+    append_short_time(text, time);
+    append_padded(text += ':', time.second, 2);
+}
+
+template <class Append, class Part>
+std::string text_of(Append append, const Part& part) {
+    std::string text;
+    append(text, part);
+    return text;
 }
 
 std::string long_date(Date date) {
@@ -34,15 +55,6 @@ std::string long_date(Date date) {
     text += ", " + std::to_string(day.day) + ". ";
     text += month_names[static_cast<std::size_t>(day.month - 1)];
     return text + ' ' + std::to_string(day.year);
-}
-
-std::string short_time(Date date) {
-    const TimeOfDay time = time_of_day(date);
-    return padded(time.hour, 2) + ':' + padded(time.minute, 2);
-}
-
-std::string long_time(Date date) {
-    return short_time(date) + ':' + padded(time_of_day(date).second, 2);
 }
 
 // "1.234": the digits before the decimal point.
@@ -92,13 +104,18 @@ std::string number_text(double number) {
 
 std::string general_date(Date date) {
     const TimeOfDay time = time_of_day(date);
-    const bool midnight = time.hour == 0 && time.minute == 0 && time.second == 0;
     const CalendarDate day = calendar_date(date);
+    const bool midnight = time.hour == 0 && time.minute == 0 && time.second == 0;
     const bool day_zero = day.year == 1899 && day.month == 12 && day.day == 30;
-    if (day_zero) {
-        return long_time(date);
+    std::string text;
+    if (!day_zero) {
+        append_date(text, day);
     }
-    return midnight ? short_date(date) : short_date(date) + ' ' + long_time(date);
+    if (day_zero || !midnight) {
+        text.append(day_zero ? "" : " ");
+        append_long_time(text, time);
+    }
+    return text;
 }
 
 std::string boolean_text(bool value) {
@@ -131,11 +148,11 @@ std::string format_date(Date date, DateFormat format) {
         case DateFormat::LongDate:
             return long_date(date);
         case DateFormat::ShortDate:
-            return short_date(date);
+            return text_of(append_date, calendar_date(date));
         case DateFormat::LongTime:
-            return long_time(date);
+            return text_of(append_long_time, time_of_day(date));
         case DateFormat::ShortTime:
-            return short_time(date);
+            return text_of(append_short_time, time_of_day(date));
     }
     return general_date(date);
 }

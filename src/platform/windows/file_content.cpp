@@ -60,8 +60,20 @@ OutputFile::OutputFile(std::string_view path, Mode mode)
     }
 }
 
+std::optional<OutputFile> OutputFile::existing(std::string_view path) {
+    if (!is_possible(path)) {
+        return std::nullopt;
+    }
+    FileHandle opened(path, access_of(Mode::Append), OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL);
+    return opened
+               ? std::optional(OutputFile(path, reinterpret_cast<std::intptr_t>(opened.release())))
+               : std::nullopt;
+}
+
 OutputFile::~OutputFile() {
-    CloseHandle(reinterpret_cast<HANDLE>(handle_));
+    if (handle_ != closed) {
+        CloseHandle(reinterpret_cast<HANDLE>(handle_));
+    }
 }
 
 void OutputFile::write(std::string_view text) {
