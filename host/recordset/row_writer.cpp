@@ -35,15 +35,20 @@ void append_name(std::string& text, std::string_view name) {
     text += '"';
 }
 
-// "... WHERE DSN=?" and, where the version was read, "AND STAMP=?".
-void append_identity(std::string& text, std::vector<Value>& values, const Shape& shape,
-                     const Row& original) {
-    text += " WHERE \"DSN\"=?";
+// The parameters of "... WHERE DSN=?" and, where the version was read, "AND STAMP=?".
+void append_identity(std::vector<Value>& values, const Shape& shape, const Row& original) {
     values.push_back(original[shape.key()].value());
     if (shape.version() != Shape::npos) {
-        text += " AND \"STAMP\"=?";
         values.push_back(original[shape.version()].value());
     }
+}
+
+WriteStatement::Version version_rule(const Shape& shape) noexcept {
+    if (shape.version() != Shape::npos) {
+        return WriteStatement::Version::Checked;
+    }
+    return shape.base()->version() != Table::npos ? WriteStatement::Version::Raised
+                                                  : WriteStatement::Version::None;
 }
 
 // The host's own values are written besides.
@@ -94,9 +99,7 @@ bool RowWriter::only_adds(const ClientRecordSet& record_set) const noexcept {
 
 void RowWriter::take_back(const ClientRecordSet& record_set) {
     const Shape& shape = record_set.shape();
-    text_ = "DELETE FROM ";
-    append_name(text_, shape.base()->name());
-    text_ += " WHERE \"DSN\"=?";
+    statement_.begin(WriteStatement::Action::Delete, *shape.base());
     for (const ClientRecordSet::Change& change : record_set.changes().first(written_)) {
         values_.assign(1, record_set.cells(change.row)[shape.key()].value());
         execute();
@@ -150,45 +153,41 @@ std::int64_t RowWriter::write_row(const ClientRecordSet& record_set,
 }
 
 std::int64_t RowWriter::execute() {
-    auto& entry = statements_.get(text_, [this] {
-        return StatementCache<Nothing>::Entry{database_.prepare(text_, Author::Host), {}};
+    auto& entry = statements_.get(statement_.key(), [this] {
+        return StatementCache<Nothing>::Entry{database_.prepare(statement_.text(), Author::Host),
+                                              {}};
     });
     return entry.statement->execute(values_);
+}
+
+void RowWriter::add_values(const Shape& shape, const Row& cells,
+                           std::span<const HostValue> host_values) {
+    values_.clear();
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        if (is_written(shape, i, cells[i], host_values)) {
+            statement_.add(shape.columns()[i].table_column);
+            values_.push_back(cells[i].value());
+        }
+    }
+    for (const HostValue& value : host_values) {
+        statement_.add(value.column);
+        values_.push_back(value_of(value));
+    }
 }
 
 std::int64_t RowWriter::insert(const ClientRecordSet& record_set, std::size_t row,
                                std::span<const HostValue> host_values) {
     const Shape& shape = record_set.shape();
     const Row cells = record_set.cells(row);
-    text_ = "INSERT INTO ";
-    append_name(text_, shape.base()->name());
-    values_.clear();
-    char separator = '(';
-    text_ += ' ';
     for (std::size_t i = 0; i < cells.size(); ++i) {
         const Column& column = shape.columns()[i];
-        if (column.writable && column.required && cells[i].is_null()) {
+        if (column.required && column.writable && cells[i].is_null()) {
             raise(HostError::ValueRefused, shape.base()->name() + "." + column.name +
                                                " ist ein Pflichtfeld und nimmt kein Null auf.");
         }
-        if (is_written(shape, i, cells[i], host_values)) {
-            text_ += separator;
-            append_name(text_, column.name_in_table());
-            values_.push_back(cells[i].value());
-            separator = ',';
-        }
     }
-    for (const HostValue& value : host_values) {
-        text_ += separator;
-        append_name(text_, shape.base()->columns()[value.column].name);
-        values_.push_back(value_of(value));
-        separator = ',';
-    }
-    text_ += ") VALUES (?";
-    for (std::size_t i = 1; i < values_.size(); ++i) {
-        text_ += ",?";
-    }
-    text_ += ')';
+    statement_.begin(WriteStatement::Action::Insert, *shape.base());
+    add_values(shape, cells, host_values);
     execute();
     return shape.version() == Shape::npos ? 0 : cells[shape.version()].integer;
 }
@@ -197,50 +196,31 @@ std::int64_t RowWriter::update(const ClientRecordSet& record_set,
                                const ClientRecordSet::Change& change,
                                std::span<const HostValue> host_values) {
     const Shape& shape = record_set.shape();
-    const Row cells = record_set.cells(change.row);
     const bool has_version = shape.version() != Shape::npos;
-    const std::int64_t version = has_version ? change.original[shape.version()].integer + 1 : 0;
-    text_ = "UPDATE ";
-    append_name(text_, shape.base()->name());
-    text_ += " SET ";
-    values_.clear();
-    for (std::size_t i = 0; i < cells.size(); ++i) {
-        if (is_written(shape, i, cells[i], host_values)) {
-            append_name(text_, shape.columns()[i].name_in_table());
-            text_ += "=?,";
-            values_.push_back(cells[i].value());
-        }
-    }
-    for (const HostValue& value : host_values) {
-        append_name(text_, shape.base()->columns()[value.column].name);
-        text_ += "=?,";
-        values_.push_back(value_of(value));
-    }
+    const std::int64_t version = has_version ? change.original[shape.version()].integer : 0;
+    statement_.begin(WriteStatement::Action::Update, *shape.base(), version_rule(shape));
+    add_values(shape, record_set.cells(change.row), host_values);
     if (values_.empty()) {
-        return version - (has_version ? 1 : 0);
+        return version;
     }
     if (has_version) {
-        text_ += "\"STAMP\"=?";
-        values_.emplace_back(version);
-    } else if (shape.base()->version() != Table::npos) {
-        // Others who have read the row must notice this write.
-        text_ += "\"STAMP\"=\"STAMP\"+1";
-    } else {
-        text_.pop_back();
+        values_.emplace_back(version + 1);
     }
-    append_identity(text_, values_, shape, change.original);
+    append_identity(values_, shape, change.original);
     if (execute() == 0) {
         raise_conflict(record_set, change);
     }
-    return version;
+    return has_version ? version + 1 : 0;
 }
 
 void RowWriter::remove(const ClientRecordSet& record_set, const ClientRecordSet::Change& change) {
     const Shape& shape = record_set.shape();
-    text_ = "DELETE FROM ";
-    append_name(text_, shape.base()->name());
+    const bool has_version = shape.version() != Shape::npos;
+    statement_.begin(
+        WriteStatement::Action::Delete, *shape.base(),
+        has_version ? WriteStatement::Version::Checked : WriteStatement::Version::None);
     values_.clear();
-    append_identity(text_, values_, shape, change.original);
+    append_identity(values_, shape, change.original);
     if (execute() == 0) {
         raise_conflict(record_set, change);
     }
@@ -250,21 +230,21 @@ void RowWriter::raise_conflict(const ClientRecordSet& record_set,
                                const ClientRecordSet::Change& change) {
     const Shape& shape = record_set.shape();
     std::vector<std::size_t> positions;
-    text_ = "SELECT ";
+    std::string text = "SELECT ";
     for (std::size_t i = 0; i < shape.columns().size(); ++i) {
         if (shape.columns()[i].writable && i != shape.version()) {
-            append_name(text_, shape.columns()[i].name_in_table());
-            text_ += ',';
+            append_name(text, shape.columns()[i].name_in_table());
+            text += ',';
             positions.push_back(i);
         }
     }
-    text_.back() = ' ';
-    text_ += "FROM ";
-    append_name(text_, shape.base()->name());
-    text_ += " WHERE \"DSN\"=?";
+    text.back() = ' ';
+    text += "FROM ";
+    append_name(text, shape.base()->name());
+    text += " WHERE \"DSN\"=?";
     Rows present(positions.size());
     const Value key = change.original[shape.key()].value();
-    database_.prepare(text_, Author::Host)->query({&key, 1}, present);
+    database_.prepare(text, Author::Host)->query({&key, 1}, present);
 
     const std::string row = "Der Datensatz " + in_quotes(change.original[shape.key()].text()) +
                             " in " + shape.base()->name();

@@ -10,6 +10,7 @@
 #include "host/database/statement_cache.h"
 #include "host/recordset/client_record_set.h"
 #include "host/recordset/table_rule.h"
+#include "host/recordset/write_statement.h"
 
 namespace cvdeveloper::standalone {
 
@@ -45,13 +46,15 @@ class RowWriter {
     void remove(const ClientRecordSet& record_set, const ClientRecordSet::Change& change);
     [[noreturn]] void raise_conflict(const ClientRecordSet& record_set,
                                      const ClientRecordSet::Change& change);
+    // Appends what is written of a row to the statement and its values.
+    void add_values(const Shape& shape, const Row& cells, std::span<const HostValue> host_values);
     std::int64_t execute();
 
     Database& database_;
     TableRules rules_;
     StatementCache<Nothing> statements_;
     // Used again for each row.
-    std::string text_;
+    WriteStatement statement_;
     std::vector<Value> values_;
     std::size_t written_ = 0;  // changes, by the last write()
 };
