@@ -30,15 +30,14 @@ void ClientRecordSet::require_open() const {
     }
 }
 
-void ClientRecordSet::require_current_row() const {
+// Apart from the check, which is made for each field.
+void ClientRecordSet::raise_no_current_row() const {
     require_open();
-    if (!is_on_row()) {
-        raise(HostError::NoCurrentRow,
-              rows_.size() == 0
-                  ? "Das Recordset aus " + std::string(shape_->table_name()) + " ist leer (EOF)."
-                  : "Das Recordset aus " + std::string(shape_->table_name()) +
-                        " steht auf keinem Datensatz (BOF oder EOF).");
-    }
+    raise(HostError::NoCurrentRow,
+          rows_.size() == 0
+              ? "Das Recordset aus " + std::string(shape_->table_name()) + " ist leer (EOF)."
+              : "Das Recordset aus " + std::string(shape_->table_name()) +
+                    " steht auf keinem Datensatz (BOF oder EOF).");
 }
 
 RowState ClientRecordSet::state(std::size_t row) const noexcept {
@@ -245,16 +244,19 @@ void ClientRecordSet::set_at(std::size_t position, const Variant& value) {
 
 void ClientRecordSet::require_writable(std::size_t position) const {
     require_current_row();
+    if (!is_visible(at_) || !shape_->columns()[position].writable) {
+        raise_not_writable(position);
+    }
+}
+
+void ClientRecordSet::raise_not_writable(std::size_t position) const {
     if (!is_visible(at_)) {
         raise(HostError::NoCurrentRow, "Der Datensatz aus " + std::string(shape_->table_name()) +
                                            " ist gelöscht und nimmt keine Änderung mehr an.");
     }
-    const Column& column = shape_->columns()[position];
-    if (!column.writable) {
-        raise(HostError::NotUpdatable, "Das Feld '" + column.name + "' gehört nicht zu " +
-                                           std::string(shape_->table_name()) +
-                                           " und kann nicht geschrieben werden.");
-    }
+    raise(HostError::NotUpdatable, "Das Feld '" + shape_->columns()[position].name +
+                                       "' gehört nicht zu " + std::string(shape_->table_name()) +
+                                       " und kann nicht geschrieben werden.");
 }
 
 void ClientRecordSet::write(std::size_t position, Cell written) {

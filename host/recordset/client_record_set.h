@@ -82,9 +82,7 @@ class ClientRecordSet final : public LibraryObject, public host::RecordSet {
 
     [[nodiscard]] std::size_t position_of(const Variant& name_or_position) const;
     [[nodiscard]] const Cell& current_cell(std::size_t position) const {
-        if (!is_on_row()) {
-            require_current_row();
-        }
+        require_current_row();
         return rows_[at_][position];
     }
     // The same, or nullptr where there is no current row.
@@ -99,7 +97,12 @@ class ClientRecordSet final : public LibraryObject, public host::RecordSet {
     // A closed record set has no rows.
     [[nodiscard]] bool is_on_row() const noexcept { return !before_first_ && at_ < rows_.size(); }
     void require_open() const;
-    void require_current_row() const;
+    void require_current_row() const {
+        if (!is_on_row()) {
+            raise_no_current_row();
+        }
+    }
+    [[noreturn]] void raise_no_current_row() const;
     // Which fields of record sets of one shape go where, found once for all rows.
     struct CopyPlan {
         struct Step {
@@ -114,6 +117,7 @@ class ClientRecordSet final : public LibraryObject, public host::RecordSet {
 
     void plan_copy(const Shape& source, std::string_view excluded);
     void require_writable(std::size_t position) const;
+    [[noreturn]] void raise_not_writable(std::size_t position) const;
     void write(std::size_t position, Cell written);
     void show_host_value(const HostValue& value);
     void note_change(RowState state, Row original);

@@ -1,5 +1,7 @@
 #include "host/recordset/write_statement.h"
 
+#include <array>
+
 namespace cvdeveloper::standalone {
 
 namespace {
@@ -24,8 +26,9 @@ void WriteStatement::begin(Action action, const Table& table, Version version) {
 }
 
 void WriteStatement::add(std::size_t column) {
-    key_ += static_cast<char>(column & 0xFFU);
-    key_ += static_cast<char>(column >> 8U & 0xFFU);
+    const std::array<char, 2> bytes = {static_cast<char>(column & 0xFFU),
+                                       static_cast<char>(column >> 8U & 0xFFU)};
+    key_.append(bytes.data(), bytes.size());
 }
 
 template <class Use>

@@ -7,7 +7,15 @@
 namespace cvdeveloper {
 
 bool host::names_field(std::string_view list, std::string_view field) {
-    return list.find(joined({"|", upper_case(field), "|"})) != std::string_view::npos;
+    const std::string name = upper_case(field);
+    for (std::size_t at = list.find(name); at != std::string_view::npos;
+         at = list.find(name, at + 1)) {
+        const std::size_t end = at + name.size();
+        if (at > 0 && list[at - 1] == '|' && end < list.size() && list[end] == '|') {
+            return true;
+        }
+    }
+    return false;
 }
 
 void host::RecordSet::copy_fields(RecordSet& source, std::string_view excluded) {
