@@ -74,6 +74,14 @@ TEST_F(SyncsTest, MakingAnActivityWithTwoFeaturesWaitsForTheDiskOnce) {
     EXPECT_EQ(syncs, 10);
 }
 
+// The log goes to the database's file only now and then.
+TEST_F(SyncsTest, AHundredWritesWaitForTheirCommitsAlone) {
+    for (int i = 0; i < 100; ++i) {
+        app->AKT_Create("", "Anruf");
+    }
+    EXPECT_EQ(syncs, 100);
+}
+
 TEST_F(SyncsTest, EachWriteOfACallersOwnWaitsForTheDisk) {
     app->oBase()->Det_SetValue("AKT", "A", "B", "eins");
     app->oBase()->Det_SetValue("AKT", "A", "B", "zwei");
