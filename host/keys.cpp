@@ -47,6 +47,15 @@ class RandomNumbers {
     OwnMemory memory_{sizeof(Drawn)};
 };
 
+constexpr auto digits_of_bytes = [] {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::array<std::array<char, 2>, 256> all{};
+    for (std::size_t byte = 0; byte < all.size(); ++byte) {
+        all[byte] = {digits[byte >> 4U], digits[byte & 0x0FU]};
+    }
+    return all;
+}();
+
 // Where the two digits of each byte stand among the dashes.
 constexpr std::array<std::size_t, 16> places_of_bytes = {0,  2,  4,  6,  9,  11, 14, 16,
                                                          19, 21, 24, 26, 28, 30, 32, 34};
@@ -65,12 +74,10 @@ std::string new_key() {
     const std::array<std::uint64_t, 2> halves = {
         milliseconds_count << 16U | 0x7000U | fraction,
         (random.next() & 0x3FFFFFFFFFFFFFFFU) | 0x8000000000000000U};
-    constexpr std::string_view digits = "0123456789ABCDEF";
     std::string key(36, '-');
     for (std::size_t i = 0; i < places_of_bytes.size(); ++i) {
         const std::uint64_t byte = halves[i / 8] >> (56 - i % 8 * 8) & 0xFFU;
-        key[places_of_bytes[i]] = digits[byte >> 4U];
-        key[places_of_bytes[i] + 1] = digits[byte & 0x0FU];
+        std::ranges::copy(digits_of_bytes[byte], key.data() + places_of_bytes[i]);
     }
     return key;
 }

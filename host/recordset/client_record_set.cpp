@@ -217,6 +217,7 @@ void ClientRecordSet::copy_fields(host::RecordSet& source, std::string_view excl
     if (copy_plan_.source != other->shape_.get() || copy_plan_.excluded != excluded) {
         plan_copy(*other->shape_, excluded);
     }
+    bool row_is_checked = false;
     for (const CopyPlan::Step& step : copy_plan_.steps) {
         const Cell& cell = other->current_cell(step.from);
         const Column& from = other->shape_->columns()[step.from];
@@ -225,7 +226,13 @@ void ClientRecordSet::copy_fields(host::RecordSet& source, std::string_view excl
         }
         const Column& to = shape_->columns()[step.to];
         if (step.same_column && survives_assignment(cell, to)) {
-            require_writable(step.to);
+            // What is true of the row stays so.
+            if (!row_is_checked) {
+                require_writable(step.to);
+                row_is_checked = true;
+            } else if (!to.writable) {
+                raise_not_writable(step.to);
+            }
             Cell written = cell;
             rows_.keep_content(written);
             write(step.to, written);

@@ -1,7 +1,5 @@
 #include "host/recordset/write_statement.h"
 
-#include <array>
-
 namespace cvdeveloper::standalone {
 
 namespace {
@@ -18,26 +16,19 @@ void WriteStatement::begin(Action action, const Table& table, Version version) {
     version_ = version;
     table_ = &table;
     key_.clear();
-    key_ += static_cast<char>(action);
-    key_ += static_cast<char>(version);
-    key_ += table.name();
-    key_ += '\0';
+    key_.push_back(static_cast<unsigned char>(action));
+    key_.push_back(static_cast<unsigned char>(version));
+    for (const char c : table.name()) {
+        key_.push_back(static_cast<unsigned char>(c));
+    }
+    key_.push_back(0);
     begin_of_columns_ = key_.size();
-}
-
-void WriteStatement::add(std::size_t column) {
-    const std::array<char, 2> bytes = {static_cast<char>(column & 0xFFU),
-                                       static_cast<char>(column >> 8U & 0xFFU)};
-    key_.append(bytes.data(), bytes.size());
 }
 
 template <class Use>
 void WriteStatement::for_each_column(const Use& use) const {
-    const auto byte = [this](std::size_t at) {
-        return static_cast<std::size_t>(static_cast<unsigned char>(key_[at]));
-    };
-    for (std::size_t at = begin_of_columns_; at < key_.size(); at += 2) {
-        use(quoted_name(table_->columns()[byte(at) | byte(at + 1) << 8U].name));
+    for (std::size_t i = begin_of_columns_; i < key_.size(); ++i) {
+        use(quoted_name(table_->columns()[key_[i]].name));
     }
 }
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "host/database/catalog.h"
 
@@ -25,10 +26,12 @@ class WriteStatement {
     void begin(Action action, const Table& table, Version version = Version::None);
     // The statement's next parameter is the column's value. Its last ones are, where it has them,
     // the new version, the key and the version that was read.
-    void add(std::size_t column);
+    void add(std::size_t column) { key_.push_back(static_cast<std::uint16_t>(column)); }
 
     // Valid until the next call of begin or add.
-    [[nodiscard]] std::string_view key() const noexcept { return key_; }
+    [[nodiscard]] std::string_view key() const noexcept {
+        return {reinterpret_cast<const char*>(key_.data()), key_.size() * sizeof key_[0]};
+    }
     [[nodiscard]] std::string text() const;
 
   private:
@@ -42,7 +45,8 @@ class WriteStatement {
     Action action_ = Action::Insert;
     Version version_ = Version::None;
     const Table* table_ = nullptr;
-    std::string key_;  // action, version, the table's name, and two bytes for each column
+    // Action, version, the table's name, and the columns.
+    std::vector<std::uint16_t> key_;
     std::size_t begin_of_columns_ = 0;
 };
 

@@ -106,34 +106,39 @@ class Folded {
     std::size_t at_ = 0;
 };
 
-// Where two pieces of eight bytes differ; eight where they do not.
-std::size_t first_difference_of_eight(const char* left, const char* right) noexcept {
+// Which bits of eight bytes differ.
+std::uint64_t differences(const char* left, const char* right) noexcept {
     std::uint64_t a = 0;
     std::uint64_t b = 0;
     std::memcpy(&a, left, sizeof a);
     std::memcpy(&b, right, sizeof b);
-    // The bytes of a word lie in the order of the text on every machine we build for.
-    static_assert(std::endian::native == std::endian::little);
-    return static_cast<std::size_t>(std::countr_zero(a ^ b)) / 8;
+    return a ^ b;
 }
 
-// Where the texts differ first; the shorter one's size where they do not. The last step looks at
-// some bytes again.
+std::size_t first_byte(std::uint64_t bits) noexcept {
+    // The bytes of a word lie in the order of the text on every machine we build for.
+    static_assert(std::endian::native == std::endian::little);
+    return static_cast<std::size_t>(std::countr_zero(bits)) / 8;
+}
+
+// Where the texts differ first; the shorter one's size where they do not.
 std::size_t first_difference(const char* left, const char* right, std::size_t common) noexcept {
-    constexpr std::size_t step = 8;
+    constexpr std::size_t step = sizeof(std::uint64_t);
     std::size_t at = 0;
-    if (common < step) {
-        while (at < common && left[at] == right[at]) {
-            ++at;
-        }
-        return at;
-    }
-    for (const std::size_t last = common - step;; at = std::min(at + step, last)) {
-        const std::size_t same = first_difference_of_eight(left + at, right + at);
-        if (same < step || at == last) {
-            return at + same;
+    for (; at + step <= common; at += step) {
+        if (const std::uint64_t bits = differences(left + at, right + at); bits != 0) {
+            return at + first_byte(bits);
         }
     }
+    if (at > 0 && at < common) {
+        // The rest in one step, with some bytes before it once more.
+        const std::uint64_t bits = differences(left + common - step, right + common - step);
+        return bits == 0 ? common : common - step + first_byte(bits);
+    }
+    while (at < common && left[at] == right[at]) {
+        ++at;
+    }
+    return at;
 }
 
 // Kept apart from the short way, which needs none of its room on the stack.

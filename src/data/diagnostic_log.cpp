@@ -54,6 +54,19 @@ class Log {
     std::optional<files::OutputFile> opened_;
 };
 
+// The present moment, which many lines in a row have in common.
+const std::string& stamp() {
+    struct Written {
+        Date moment;
+        std::string text;
+    };
+    thread_local Written last;
+    if (const Date present = now(); last.text.empty() || last.moment.days != present.days) {
+        last = {.moment = present, .text = regional::general_date(present)};
+    }
+    return last.text;
+}
+
 constexpr Parameter log_parameters[] = {
     {.name = "strProcName", .help = "what the line is about, as a rule an operation's name"},
     {.name = "strMessageString", .help = "the message; may hold line breaks"},
@@ -127,8 +140,7 @@ void DiagnosticLog::DoLog(std::string_view strProcName, std::string_view strMess
     constexpr std::size_t units_of_second_try = 300;
     try {
         Log log(session().log_path);
-        const std::string line =
-            joined({regional::general_date(now()), " - ", strProcName, " : ", strMessageString});
+        const std::string line = joined({stamp(), " - ", strProcName, " : ", strMessageString});
         if (!log.append(line)) {
             log.append(joined({first_units(line, units_of_second_try), " ..."}));
         }

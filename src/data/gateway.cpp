@@ -109,7 +109,7 @@ RecordSet Gateway::CV_GetRecordset(std::string_view strSQL) const {
     try {
         rs = host.GetRecordset(strSQL, password());
         if (rs.at_end()) {
-            log.DoLog("EOF=true in ", "SQL: " + std::string(strSQL));
+            log.DoLog("EOF=true in ", joined({"SQL: ", strSQL}));
         }
     } catch (const AutomationError& error) {
         if (!trap) {
