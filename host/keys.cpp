@@ -86,7 +86,7 @@ std::string literal(std::string_view text) {
     // Keys and most texts have no quote: looking for one is quicker than counting them.
     if (text.find('\'') == std::string_view::npos) {
         std::string quoted(text.size() + 2, '\'');
-        std::ranges::copy(text, quoted.data() + 1);
+        text.copy(quoted.data() + 1, text.size());
         return quoted;
     }
     std::string quoted = "'";
