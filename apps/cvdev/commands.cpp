@@ -71,8 +71,13 @@ constexpr Command all[] = {
      "lists the operations, prints them as IDL, or writes the reference pages", interface},
 #ifndef _WIN32  // where there is no Python module, and folders are kept by the office's server
     {"shell", "FOLDER", "opens Python with app connected to the host folder", shell},
-    {"user", "list FOLDER | add FOLDER NAME [--admin] | passwd FOLDER NAME",
-     "lists users, adds one, changes a password; asks for passwords, or reads one line", user},
+    {"user",
+     "list FOLDER | add FOLDER NAME [--admin] | passwd FOLDER NAME | deactivate FOLDER NAME | "
+     "activate FOLDER NAME",
+     "lists users, adds one, changes a password (asks for it, or reads one line), refuses or "
+     "allows "
+     "log-ons",
+     user},
     {"check", "FOLDER",
      "verifies database and attachments and says what is wrong; exit code 1 then", check},
     {"backup", "FOLDER FILE",

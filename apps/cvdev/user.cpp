@@ -72,6 +72,19 @@ int passwd(Words arguments) {
     return EXIT_SUCCESS;
 }
 
+// An inactive user keeps password and rows, and may not log on.
+int set_active(Words arguments, bool is_active) {
+    const Options options = read_options(arguments);
+    require_words(options, 2, "FOLDER and NAME are");
+    const HostFolder folder = HostFolder::open(options.words[0]);
+    const auto database = folder.open_database();
+    Users(*database).set_active(options.words[1], is_active);
+    const std::string state = is_active ? "aktiv" : "nicht aktiv";
+    folder.log().note("Benutzer '" + options.words[1] + "' ist jetzt " + state);
+    std::cout << "Der Benutzer '" << options.words[1] << "' ist " << state << ".\n";
+    return EXIT_SUCCESS;
+}
+
 }  // namespace
 
 int user(Words arguments) {
@@ -85,7 +98,10 @@ int user(Words arguments) {
     if (action == "passwd") {
         return passwd(arguments.subspan(1));
     }
-    throw UsageError{"user needs list, add or passwd"};
+    if (action == "activate" || action == "deactivate") {
+        return set_active(arguments.subspan(1), action == "activate");
+    }
+    throw UsageError{"user needs list, add, passwd, activate or deactivate"};
 }
 
 }  // namespace cvdev

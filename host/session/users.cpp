@@ -119,17 +119,30 @@ void Users::add(std::string_view login_name, std::string_view password, bool is_
     }
 }
 
-void Users::set_password(std::string_view login_name, std::string_view password) {
-    const std::optional<User> user = find(login_name);
+std::string Users::key_of(std::string_view login_name) {
+    std::optional<User> user = find(login_name);
     if (!user) {
         raise(HostError::ValueRefused, "Einen Benutzer " +
                                            in_quotes(first_units(login_name, longest_name)) +
                                            " gibt es nicht.");
     }
-    write_password(user->key, hash_of(password));
-    const Value key = std::string_view(user->key);
+    return std::move(user->key);
+}
+
+void Users::set_password(std::string_view login_name, std::string_view password) {
+    const std::string user = key_of(login_name);
+    write_password(user, hash_of(password));
+    const Value key = std::string_view(user);
     database_.prepare("DELETE FROM cv_logon WHERE Benutzer_DSN=?", Author::Host)
         ->execute({&key, 1});
+}
+
+void Users::set_active(std::string_view login_name, bool is_active) {
+    const std::string user = key_of(login_name);
+    const Value values[] = {std::int64_t{is_active}, std::string_view(user)};
+    // A record set that was read before must not take it back unnoticed.
+    database_.prepare("UPDATE Benutzer SET AKTIV=?, STAMP=STAMP+1 WHERE DSN=?", Author::Host)
+        ->execute(values);
 }
 
 void Users::write_password(std::string_view key, std::string_view hash) {

@@ -39,6 +39,10 @@ class Users {
     // Failed log-ons are forgotten. Errors: ValueRefused for an unknown user.
     void set_password(std::string_view login_name, std::string_view password);
 
+    // Whether the user may log on; who is logged on works on. Errors: ValueRefused for an unknown
+    // user.
+    void set_active(std::string_view login_name, bool is_active);
+
     // Makes the user of that name an active administrator; where there is none of that name, the
     // new database's first user takes it.
     void make_administrator(std::string_view name);
@@ -46,6 +50,8 @@ class Users {
   private:
     [[nodiscard]] std::vector<User> query(std::string_view condition,
                                           std::span<const Value> values);
+    // Errors: ValueRefused for an unknown user.
+    [[nodiscard]] std::string key_of(std::string_view login_name);
     void write_password(std::string_view key, std::string_view hash);
 
     Database& database_;

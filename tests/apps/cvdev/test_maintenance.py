@@ -87,7 +87,8 @@ def test_an_error_is_one_line(cvdev, folder, tmp_path):
 def test_the_commands_stand_in_the_help(cvdev):
     text = cvdev("--help").stdout
     for command in (
-        "cvdev user list FOLDER | add FOLDER NAME [--admin] | passwd FOLDER NAME",
+        "cvdev user list FOLDER | add FOLDER NAME [--admin] | passwd FOLDER NAME | "
+        "deactivate FOLDER NAME | activate FOLDER NAME",
         "cvdev check FOLDER",
         "cvdev backup FOLDER FILE",
         "cvdev restore FILE FOLDER",

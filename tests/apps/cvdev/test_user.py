@@ -4,6 +4,7 @@ import cvdeveloper
 import pytest
 
 LOG_ON_FAILED = -2147217843
+ROW_CHANGED = -2147217864
 
 
 def can_log_on(folder, user, password):
@@ -62,6 +63,8 @@ def test_two_different_passwords_change_nothing(cvdev_on_terminal, folder):
         (("add", "chef"), "x\n", "cvdev: Den Benutzer 'chef' gibt es schon.\n"),
         (("add", "anna"), "\n", "cvdev: Das Kennwort ist leer; es ist nichts geändert.\n"),
         (("passwd", "niemand"), "x\n", "cvdev: Einen Benutzer 'niemand' gibt es nicht.\n"),
+        (("deactivate", "niemand"), "", "cvdev: Einen Benutzer 'niemand' gibt es nicht.\n"),
+        (("activate", "niemand"), "", "cvdev: Einen Benutzer 'niemand' gibt es nicht.\n"),
     ],
 )
 def test_what_cannot_be_done_is_told_in_one_line(cvdev, folder, arguments, text, message):
@@ -82,9 +85,13 @@ def test_a_password_is_no_argument(cvdev, folder):
 def test_passwords_and_users_leave_a_line_in_the_log(cvdev, folder):
     cvdev("user", "add", folder, "anna", text="ganz-geheim\n")
     cvdev("user", "passwd", folder, "anna", text="noch-geheimer\n")
+    cvdev("user", "deactivate", folder, "anna")
+    cvdev("user", "activate", folder, "anna")
     log = (folder / "corvanta.log").read_text(encoding="utf-8")
     assert "Benutzer 'anna' angelegt" in log
     assert "Kennwort von 'anna' geändert" in log
+    assert "Benutzer 'anna' ist jetzt nicht aktiv" in log
+    assert "Benutzer 'anna' ist jetzt aktiv" in log
     assert "geheim" not in log
     assert (folder / "corvanta.log").stat().st_mode & 0o777 == 0o600
 
@@ -98,13 +105,51 @@ def test_a_failed_log_on_from_python_counts_once(folder):
 
 def test_an_inactive_user_is_told_so(cvdev, folder):
     cvdev("user", "add", folder, "anna", text="x\n")
-    with cvdeveloper.connect(folder) as app:
-        rs = app.oBase.CV_GetRecordset("SELECT * FROM Benutzer WHERE Login_Name='anna'")
-        rs["AKTIV"] = 0
-        app.oBase.CV_UpdateRecordset(rs)
+    run = cvdev("user", "deactivate", folder, "Anna")
+    assert (run.returncode, run.stdout) == (0, "Der Benutzer 'Anna' ist nicht aktiv.\n")
     with pytest.raises(cvdeveloper.AutomationError) as raised:
         cvdeveloper.connect(folder, "anna", "x")
     assert raised.value.description == (
         "Die Anmeldung von 'anna' ist fehlgeschlagen: der Benutzer ist nicht aktiv und darf sich "
         "nicht anmelden."
     )
+
+
+def test_the_list_shows_who_is_inactive(cvdev, folder):
+    cvdev("user", "deactivate", folder, "vera")
+    users = cvdev("user", "list", folder).stdout.splitlines()
+    (vera,) = (line.split(maxsplit=3)[3] for line in users if line.startswith("vera "))
+    assert vera == "nicht aktiv, ohne Kennwort: kann sich nicht anmelden"
+    assert sum("nicht aktiv" in line for line in users) == 1
+
+
+def test_a_user_made_active_again_has_the_old_password(cvdev, folder):
+    cvdev("user", "add", folder, "anna", text="x\n")
+    cvdev("user", "deactivate", folder, "anna")
+    assert not can_log_on(folder, "anna", "x")
+    run = cvdev("user", "activate", folder, "anna")
+    assert (run.returncode, run.stdout) == (0, "Der Benutzer 'anna' ist aktiv.\n")
+    assert can_log_on(folder, "anna", "x")
+
+
+def test_the_last_administrator_comes_back_by_the_command_line(cvdev, folder):
+    assert cvdev("user", "deactivate", folder, "chef").returncode == 0
+    assert not can_log_on(folder, "chef", "")
+    assert cvdev("user", "activate", folder, "chef").returncode == 0
+    assert can_log_on(folder, "chef", "")
+
+
+def test_who_is_logged_on_works_on_when_made_inactive(cvdev, folder):
+    with cvdeveloper.connect(folder) as app:
+        cvdev("user", "deactivate", folder, "chef")
+        assert app.AKT_Create(strBetreff="noch da") != ""
+
+
+def test_a_record_set_read_before_does_not_take_it_back(cvdev, folder):
+    with cvdeveloper.connect(folder) as app:
+        users = app.oBase.CV_GetRecordset("SELECT * FROM Benutzer WHERE Login_Name='vera'")
+        cvdev("user", "deactivate", folder, "vera")
+        users["Name"] = "Vera Anders"
+        with pytest.raises(cvdeveloper.AutomationError) as raised:
+            app.oBase.CV_UpdateRecordset(users)
+        assert raised.value.number == ROW_CHANGED
