@@ -39,7 +39,12 @@ constexpr std::string_view default_ini =
     "\n"
     "[Kennungen]\n"
     "; Mindestzahl der Ziffern, mit führenden Nullen\n"
-    "Stellen = 0\n";
+    "Stellen = 0\n"
+    "\n"
+    "[Protokoll]\n"
+    "; Kilobyte, nach denen corvanta.log neu beginnt; die vorige bleibt als corvanta.log.alt. "
+    "0: nie\n"
+    "Umfang = 1000\n";
 
 // Takes back what was made, unless everything was.
 class Undo {

@@ -79,7 +79,8 @@ Settings read_settings(std::string_view folder, std::string_view text) {
     settings.timeout = seconds("Wartezeit", settings.timeout);
     settings.statement_limit = seconds("Laufzeit", settings.statement_limit);
     settings.sync = ini.sync();
-    settings.number_digits = ini.number("Kennungen", "Stellen", 0);
+    settings.number_digits = ini.number("Kennungen", "Stellen", settings.number_digits);
+    settings.log_size = ini.number("Protokoll", "Umfang", settings.log_size);
     return settings;
 }
 
@@ -158,7 +159,9 @@ std::unique_ptr<Database> HostFolder::open_database() const {
 }
 
 HostLog HostFolder::log() const {
-    return HostLog(paths::to_system(path_) / "corvanta.log");
+    constexpr std::uint64_t kilobyte = 1000;
+    return {paths::to_system(path_) / "corvanta.log",
+            static_cast<std::uint64_t>(settings_.log_size) * kilobyte};
 }
 
 }  // namespace cvdeveloper::standalone

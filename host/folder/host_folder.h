@@ -28,6 +28,8 @@ struct Settings {
     Sync sync = Sync::EachCommit;
     // Human keys get leading zeros up to so many digits.
     int number_digits = 0;
+    // Kilobytes at which corvanta.log begins anew; 0 for never.
+    int log_size = 1000;
 };
 
 // A folder that holds everything of one office: corvanta.ini, corvanta.db, the pictures in

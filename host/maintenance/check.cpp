@@ -84,8 +84,13 @@ void check_attachments(Database& database, const fs::path& path, CheckReport& re
 }
 
 void check_rights(const fs::path& folder, const fs::path& database, Problems& problems) {
-    std::vector<fs::path> files = {folder, folder / "corvanta.ini", folder / "corvanta.log",
-                                   folder / "Anlagen", folder / "pic.obj"};
+    const fs::path log = folder / "corvanta.log";
+    std::vector<fs::path> files = {folder,
+                                   folder / "corvanta.ini",
+                                   log,
+                                   HostLog::old_one_of(log),
+                                   folder / "Anlagen",
+                                   folder / "pic.obj"};
     for (const char* part : {"", "-wal", "-shm"}) {
         files.push_back(fs::path(database) += part);
     }

@@ -26,7 +26,8 @@ FileHandle opened(std::string_view path, OpenFile::Mode mode) {
         }
         case OpenFile::Mode::Append: {
             files::OwnerOnly owner;
-            return {path, FILE_APPEND_DATA | SYNCHRONIZE, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL,
+            // Only what may be read can be locked.
+            return {path, FILE_APPEND_DATA | GENERIC_READ, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL,
                     owner.attributes()};
         }
         case OpenFile::Mode::Folder:

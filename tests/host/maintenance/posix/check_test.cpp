@@ -139,6 +139,14 @@ TEST_F(Checking, NamesFilesThatOthersMayRead) {
                                 "/corvanta.db' ist auch für andere als den Besitzer zugänglich."});
 }
 
+TEST_F(Checking, NamesAnOldLogThatOthersMayRead) {
+    std::ofstream(host_path() + "/corvanta.log.alt") << "Zeile\n";
+    fs::permissions(host_path() + "/corvanta.log.alt", fs::perms(0640));
+    EXPECT_EQ(problems(),
+              Texts{"'" + host_path() +
+                    "/corvanta.log.alt' ist auch für andere als den Besitzer zugänglich."});
+}
+
 TEST_F(Checking, ChangesNothingAndKeepsNobodyFromWriting) {
     connector->BeginTrans();
     add_activity("x");
