@@ -7,6 +7,7 @@
 #include "cvdeveloper/automation/error.h"
 #include "host/database/sqlite/backup_database.h"
 #include "host/database/sqlite/functions.h"
+#include "host/database/sqlite/memory_files.h"
 #include "host/database/sqlite/prepared_statement.h"
 #include "host/database/sqlite/system_error.h"
 #include "host/errors.h"
@@ -82,7 +83,7 @@ Connection::Connection(const std::string& path, const OpenOptions& options)
     // One thread at a time is our own rule, so the database needs no lock of its own.
     const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE |
                       (options.create ? SQLITE_OPEN_CREATE : 0);
-    const int code = sqlite3_open_v2(path.c_str(), &opened, flags, nullptr);
+    const int code = sqlite3_open_v2(path.c_str(), &opened, flags, file_system_with_memory_files());
     handle_.reset(opened);
     if (code != SQLITE_OK) {
         raise_file_failure(code, sqlite3_errstr(code));
@@ -102,8 +103,10 @@ Connection::Connection(const std::string& path, const OpenOptions& options)
     install_functions(opened);
     install_access_check(opened, access_);
 
+    // Temporary files are ours, in memory: what the database itself keeps there it sorts in one
+    // piece, which nothing stops.
     run_script(
-        "PRAGMA foreign_keys=OFF; PRAGMA temp_store=MEMORY; PRAGMA secure_delete=OFF;"
+        "PRAGMA foreign_keys=OFF; PRAGMA temp_store=FILE; PRAGMA secure_delete=OFF;"
         "PRAGMA cache_size=-16000;");
     run_script(std::string("PRAGMA synchronous=").append(name_of(options.sync)));
     // Where nothing else is waited for, it says how much a power failure may cost.

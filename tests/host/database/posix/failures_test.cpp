@@ -271,6 +271,23 @@ class FullDisk : public Failing, public ::testing::WithParamInterface<bool> {
     [[nodiscard]] SmallDisk small_disk() const { return {folder.path("platte"), GetParam()}; }
 };
 
+TEST_P(FullDisk, TakesNoRoomForALargeSort) {
+    in_child([this] {
+        const SmallDisk disk = small_disk();
+        const std::string path = disk.path("büro");
+        fs::copy(host_path(), path, fs::copy_options::recursive);
+        disk.begin(3'000'000);
+        Connector own;
+        own.Logon(path, "chef", "");
+        const RecordSet rs = own.GetRecordset(
+            "WITH RECURSIVE row(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM row LIMIT 300000) "
+            "SELECT i * 7919 % 400009 AS x, hex('0123456789012345678901234567890123456789') AS y "
+            "FROM row ORDER BY x",
+            {});
+        EXPECT_FALSE(rs.at_end());
+    });
+}
+
 TEST_P(FullDisk, TakesNothingByHalvesAndTheSessionGoesOn) {
     in_child([this] {
         const SmallDisk disk = small_disk();

@@ -5,19 +5,20 @@
 #include <map>
 #include <memory>
 
+#include "host/database/sqlite/memory_files.h"
 #include "support/standalone_application.h"
 
 namespace cvdeveloper {
 namespace {
 
-// The database's file system, which counts how often files are synced while this lives.
+// The database's file system, found in its place while this lives: it counts how often files are
+// synced.
 class CountedSyncs {
   protected:
     CountedSyncs() {
         syncs = 0;
-        original = sqlite3_vfs_find(nullptr);
+        original = sqlite3_vfs_find(standalone::sqlite::file_system_with_memory_files());
         counting = *original;
-        counting.zName = "counting";
         counting.xOpen = open;
         sqlite3_vfs_register(&counting, 1);
     }
