@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <string_view>
 
 #include "host/sql/names.h"
+#include "host/sql/result_names.h"
 
 namespace cvdeveloper::standalone::sql {
 
@@ -37,6 +39,10 @@ bool is_comparison_word(const Token& token) {
     return is_one_of(token, words);
 }
 
+bool picks_greatest(const Token& token) {
+    return token.is_keyword("MAX") || token.is_keyword("MIN");
+}
+
 class Search {
   public:
     Search(std::span<const Token> tokens, std::vector<std::size_t>& places)
@@ -51,9 +57,16 @@ class Search {
     }
 
   private:
+    // What is compared with its like although no comparison stands beside it.
+    enum class Terms : std::uint8_t {
+        None,
+        Sorted,     // of ORDER BY and its like
+        Results,    // of SELECT DISTINCT
+        Arguments,  // of MAX, of COUNT(DISTINCT ...)
+    };
     struct Level {
         bool is_call = false;
-        bool in_terms = false;
+        Terms terms = Terms::None;
         std::size_t term_begin = 0;
     };
 
@@ -73,8 +86,7 @@ class Search {
     void read() {
         const Token& token = tokens_[at_];
         if (token.is("(")) {
-            const bool is_call = at_ > 0 && is_name(at_ - 1) && !is_clause_word(tokens_[at_ - 1]);
-            levels_.push_back({.is_call = is_call});
+            open_bracket();
         } else if (token.is(")")) {
             end_term();
             closed_call_ = levels_.back().is_call;
@@ -82,16 +94,54 @@ class Search {
                 levels_.pop_back();
             }
         } else if (token.is_keyword("BY")) {
-            levels_.back() = {.in_terms = true, .term_begin = at_ + 1};
-        } else if (levels_.back().in_terms && token.is(",")) {
+            begin_terms(Terms::Sorted);
+        } else if (token.is_keyword("DISTINCT")) {
+            begin_distinct();
+        } else if (levels_.back().terms != Terms::None && token.is(",")) {
             end_term();
-            levels_.back() = {.in_terms = true, .term_begin = at_ + 1};
-        } else if (levels_.back().in_terms && (token.is(";") || ends_terms(token))) {
+            levels_.back().term_begin = at_ + 1;
+        } else if (levels_.back().terms != Terms::None && (token.is(";") || ends_terms_here())) {
             end_term();
             // After DESC and NULLS FIRST only the comma begins another term.
             levels_.back().term_begin = tokens_.size();
+            if (levels_.back().terms == Terms::Results) {
+                levels_.back().terms = Terms::None;
+            }
         } else if (token.is_comparison() || is_comparison_word(token)) {
             compare();
+        }
+    }
+
+    void open_bracket() {
+        const bool is_call = at_ > 0 && is_name(at_ - 1) && !is_clause_word(tokens_[at_ - 1]);
+        levels_.push_back({.is_call = is_call});
+        if (is_call && picks_greatest(tokens_[at_ - 1])) {
+            begin_terms(Terms::Arguments);
+        }
+    }
+
+    // There is IS DISTINCT FROM, too.
+    void begin_distinct() {
+        if (at_ > 0 && tokens_[at_ - 1].is_keyword("SELECT")) {
+            begin_terms(Terms::Results);
+        } else if (at_ > 0 && tokens_[at_ - 1].is("(") && levels_.back().is_call) {
+            begin_terms(Terms::Arguments);
+        }
+    }
+
+    void begin_terms(Terms terms) {
+        levels_.back().terms = terms;
+        levels_.back().term_begin = at_ + 1;
+    }
+
+    [[nodiscard]] bool ends_terms_here() const {
+        switch (levels_.back().terms) {
+            case Terms::Sorted:
+                return ends_terms(tokens_[at_]);
+            case Terms::Results:
+                return ends_results(tokens_, at_);
+            default:
+                return false;
         }
     }
 
@@ -119,9 +169,18 @@ class Search {
 
     void end_term() {
         const Level& level = levels_.back();
-        if (level.in_terms && level.term_begin < at_ &&
-            needs_collation(tokens_.subspan(level.term_begin, at_ - level.term_begin))) {
-            place_after(at_ - 1);
+        if (level.terms == Terms::None || level.term_begin >= at_) {
+            return;
+        }
+        std::span<const Token> term = tokens_.subspan(level.term_begin, at_ - level.term_begin);
+        if (level.terms == Terms::Results) {
+            term = without_result_name(term);
+            if (term.back().is("*")) {
+                return;
+            }
+        }
+        if (needs_collation(term)) {
+            place_after(level.term_begin + term.size() - 1);
         }
     }
 

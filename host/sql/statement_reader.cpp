@@ -7,6 +7,7 @@
 
 #include "host/sql/collation_places.h"
 #include "host/sql/date_results.h"
+#include "host/sql/result_names.h"
 
 namespace cvdeveloper::standalone::sql {
 
@@ -58,6 +59,7 @@ const ReadStatement& StatementReader::read(std::string_view statement) {
     tokenize(statement, tokens_);
     levels_.assign(1, Level{});
     places_.clear();
+    insertions_.clear();
     texts_.clear();
     result_.text.clear();
     result_.values.clear();
@@ -65,14 +67,20 @@ const ReadStatement& StatementReader::read(std::string_view statement) {
     result_.same_for_all_texts = true;
     result_.broken = {};
     find_collation_places(tokens_, collation_places_);
+    const std::vector<ResultTokens> unnamed = find_unnamed_results(tokens_, collation_places_);
     auto collated = collation_places_.begin();
+    auto named = unnamed.begin();
     for (std::size_t i = 0; i < tokens_.size(); ++i) {
         append_gap(i);
         places_.push_back(result_.text.size());
         read_token(i);
         if (collated != collation_places_.end() && *collated == i) {
-            result_.text += " COLLATE CVTEXT";
+            insert(" COLLATE CVTEXT");
             ++collated;
+        }
+        if (named != unnamed.end() && named->last == i) {
+            insert_name(named->first);
+            ++named;
         }
     }
     const std::string_view rest = statement.substr(tokens_.empty() ? 0 : tokens_.back().end());
@@ -80,6 +88,31 @@ const ReadStatement& StatementReader::read(std::string_view statement) {
     result_.date_results = find_date_results(tokens_, dictionary_);
     result_.never_true = finds_never_true();
     return result_;
+}
+
+void StatementReader::insert(std::string_view text) {
+    insertions_.push_back({.begin = result_.text.size(), .size = text.size()});
+    result_.text += text;
+}
+
+void StatementReader::insert_name(std::size_t first_token) {
+    std::string name = " AS \"";
+    std::size_t at = places_[first_token];
+    const auto append_up_to = [&](std::size_t end) {
+        for (; at < end; ++at) {
+            name += result_.text[at];
+            // A quotation mark in a name is written twice.
+            name.append(result_.text[at] == '"' ? 1 : 0, '"');
+        }
+    };
+    for (const Insertion& insertion : insertions_) {
+        if (insertion.begin >= at) {
+            append_up_to(insertion.begin);
+            at += insertion.size;
+        }
+    }
+    append_up_to(result_.text.size());
+    insert(name += '"');
 }
 
 void StatementReader::append_gap(std::size_t token) {

@@ -49,6 +49,10 @@ class StatementReader {
     };
 
     void append_gap(std::size_t token);
+    // Something that the statement does not have, and its results' names must not have.
+    void insert(std::string_view text);
+    // The text of a result since its first token, as the name of its column.
+    void insert_name(std::size_t first_token);
     void read_token(std::size_t index);
     void read_name(std::size_t index);
     void read_keyword(const Token& token);
@@ -69,7 +73,12 @@ class StatementReader {
     std::string_view statement_;
     std::vector<Token> tokens_;
     std::vector<std::size_t> collation_places_;
-    std::vector<std::size_t> places_;  // of the tokens in the text read so far
+    struct Insertion {
+        std::size_t begin;
+        std::size_t size;
+    };
+    std::vector<Insertion> insertions_;  // in the text read so far
+    std::vector<std::size_t> places_;    // of the tokens in the text read so far
     std::vector<Level> levels_;
     std::deque<std::string> texts_;  // literals that differ from their spelling
     ReadStatement result_;

@@ -157,6 +157,43 @@ TEST_F(CallersStatement, ComparesResultsOfExpressionsAsUsersExpect) {
     }
 }
 
+TEST_F(CallersStatement, TakesResultsOfExpressionsForTheSameAsUsersDo) {
+    for (const char* subject : {"Zoll", "zaun", "öl ", "ÖL", "Zank", "ofen"}) {
+        add_activity(subject);
+    }
+    const auto rows = [this](const std::string& statement) {
+        std::size_t count = 0;
+        for (const RecordSet rs = select(statement); !rs.at_end(); rs.move_next()) {
+            ++count;
+        }
+        return count;
+    };
+    EXPECT_EQ(rows("SELECT DISTINCT LEFT(Subject,1) FROM AKT"), 3U);
+    EXPECT_EQ(rows("SELECT DISTINCT LEFT(Subject,1) AS l, 'x' || Subject n FROM AKT"), 5U);
+    EXPECT_EQ(rows("SELECT 1 FROM (SELECT DISTINCT TRIM(Subject) FROM AKT)"), 5U);
+    EXPECT_EQ(rows("SELECT LEFT(Subject,1), count(*) FROM AKT GROUP BY LEFT(Subject,1)"), 3U);
+    EXPECT_EQ(single("SELECT COUNT(DISTINCT LEFT(Subject,1)) FROM AKT"), Variant(3));
+    EXPECT_EQ(single("SELECT COUNT(DISTINCT CASE WHEN Subject LIKE 'z%' THEN LEFT(Subject,1) END) "
+                     "FROM AKT"),
+              Variant(1));
+    // By bytes the greatest one would be that with the umlaut, the least one that with a capital.
+    EXPECT_EQ(single("SELECT MAX(TRIM(Subject)) FROM AKT"), Variant("Zoll"));
+    EXPECT_EQ(single("SELECT MIN(Subject || '') FROM AKT"), Variant("ofen"));
+    EXPECT_EQ(single("SELECT MAX('ZZ', TRIM(Subject)) FROM AKT LIMIT 1"), Variant("ZZ"));
+}
+
+TEST_F(CallersStatement, GivesResultsTheNamesOfTheirTexts) {
+    add_activity("x");
+    const RecordSet rs = select(
+        "SELECT DISTINCT MAX(TRIM( Subject )), Min(UPPER(Kennung)) AS k, LOWER(Subject) = 'X', "
+        "'a\"b' || Subject FROM AKT");
+    EXPECT_EQ(rs.field_name(0), "MAX(TRIM( Subject ))");
+    EXPECT_EQ(rs.field_name(1), "k");
+    EXPECT_EQ(rs.field_name(2), "LOWER(Subject) = 'X'");
+    EXPECT_EQ(rs.field_name(3), "'a\"b' || Subject");
+    EXPECT_EQ(rs.value("MAX(TRIM( Subject ))"), Variant("x"));
+}
+
 TEST_F(CallersStatement, ComparesEveryTextWithTheOneShapeItIsCachedUnder) {
     add_activity("O'Hara");
     add_activity("--");
