@@ -1,7 +1,5 @@
 #include "terminal_progress.h"
 
-#include <iostream>
-
 #include "host/platform/terminal.h"
 
 namespace cvdev {
@@ -20,9 +18,6 @@ TerminalProgress::TerminalProgress(std::string_view what)
 void TerminalProgress::operator()(std::string_view step, double share) {
     if (is_terminal_) {
         bar_.draw(what_ + ": " + std::string(step), share);
-    } else if (step != step_) {
-        step_ = step;
-        std::cerr << what_ << ": " << step_ << std::endl;
     }
 }
 

@@ -7,8 +7,8 @@
 
 namespace cvdev {
 
-// How far a command has come, on standard error: a bar where that is a terminal, else a line for
-// each step. The bar goes with its owner.
+// How far a command has come: a bar on standard error where that is a terminal, else nothing, since
+// a backup at night has nothing to tell but its end. The bar goes with its owner.
 class TerminalProgress {
   public:
     explicit TerminalProgress(std::string_view what);
@@ -19,7 +19,6 @@ class TerminalProgress {
 
   private:
     std::string what_;
-    std::string step_;
     bool is_terminal_;
     cvdeveloper::standalone::ProgressBar bar_;
 };
