@@ -150,6 +150,12 @@ Date to_date(const Variant& value) {
         }
     }
     const Date date{to_double(value)};
+    // A day that the calendar does not have ("31.02.26") is no number with its digits in groups.
+    const auto* const entry = value.get_if<std::string>();
+    if (entry != nullptr && entry->find('.') != std::string::npos &&
+        date.days == std::floor(date.days)) {
+        raise(RuntimeError::TypeMismatch);
+    }
     // Years 100 to 9999 are all that a date can say.
     if (!(date.days > -657435.0 && date.days < 2958466.0)) {
         raise(RuntimeError::Overflow);

@@ -56,6 +56,68 @@ TEST(Regional, NumbersAreReadInTheGermanForm) {
     }
 }
 
+TEST(Regional, PointsStandWhereTheyLikeBehindTheFirstDigit) {
+    const std::vector<std::pair<const char*, double>> table{
+        {"1.2.3", 123},
+        {"1.5", 15},
+        {"1.23,4", 123.4},
+        {"1234.567", 1234567},
+        {"1.234.5", 12345},
+        {"1..2", 12},
+        {"5.", 5},
+        {"1.,5", 1.5},
+        {"1.5E3", 15000},
+        {"(1.5)", -15},
+        {"15.11.2026", 15112026},
+    };
+    for (const auto& [text, number] : table) {
+        EXPECT_EQ(parse_number(text), number) << text;
+    }
+    EXPECT_EQ(parse_number(".5"), std::nullopt);
+}
+
+TEST(Regional, SignsBracketsAndCurrencyStandOnEitherSide) {
+    const std::vector<std::pair<const char*, double>> table{
+        {"5-", -5},     {"5 -", -5},   {"5- ", -5},    {"5+", 5},    {"5 +", 5},   {"1,5-", -1.5},
+        {"1E5-", -1e5}, {"-5€", -5},   {"-€5", -5},    {"€-5", -5},  {"€5-", -5},  {"5-€", -5},
+        {"5€-", -5},    {"(5)", -5},   {"( 5 )", -5},  {"(€5)", -5}, {"(5€)", -5}, {"(5)€", -5},
+        {"€(5)", -5},   {"5 € -", -5}, {"1E5 €", 1e5},
+    };
+    for (const auto& [text, number] : table) {
+        EXPECT_EQ(parse_number(text), number) << text;
+    }
+}
+
+TEST(Regional, NumbersMayHaveTheBaseSixteenOrEight) {
+    const std::vector<std::pair<const char*, double>> table{
+        {"&H10", 16},
+        {"&h1f", 31},
+        {" &HFF ", 255},
+        {"&HFFFF", 65535},
+        {"&H7FFFFFFF", 2147483647},
+        {"&O17", 15},
+        {"&o177777", 65535},
+    };
+    for (const auto& [text, number] : table) {
+        EXPECT_EQ(parse_number(text), number) << text;
+    }
+    for (const char* text : {"&H", "&HG", "& H10", "&H-10", "&H1,5", "&O8", "&17", "0x10", "10H"}) {
+        EXPECT_EQ(parse_number(text), std::nullopt) << text;
+    }
+}
+
+TEST(Regional, WhiteSpaceAroundANumberIsNoPartOfIt) {
+    EXPECT_EQ(parse_number("\t5\t"), 5);
+    EXPECT_EQ(parse_number("\r\n5,5\n"), 5.5);
+    EXPECT_EQ(parse_number("1 2"), std::nullopt);
+    EXPECT_EQ(parse_number("1 E5"), std::nullopt);
+}
+
+TEST(Regional, NumbersTooSmallAreNoughtAndTooLargeAreNone) {
+    EXPECT_EQ(parse_number("1e-999"), 0);
+    EXPECT_EQ(parse_number("1e999"), std::nullopt);
+}
+
 TEST(Regional, NumberTextReadsBackAsTheNumber) {
     std::mt19937_64 random(20261115);
     std::uniform_int_distribution<std::int64_t> digits(-999'999'999'999'999, 999'999'999'999'999);

@@ -1,4 +1,7 @@
+#include <algorithm>
+#include <array>
 #include <charconv>
+#include <cstdint>
 #include <string>
 
 #include "platform/regional.h"
@@ -11,21 +14,82 @@ bool is_digit(char c) {
     return c >= '0' && c <= '9';
 }
 
-bool take_prefix(std::string_view& text, std::string_view prefix) {
-    if (!text.starts_with(prefix)) {
-        return false;
-    }
-    text = trim_blanks(text.substr(prefix.size()));
-    return true;
+std::string_view trim_white_space(std::string_view text) {
+    constexpr std::string_view white_space = " \t\n\v\f\r";
+    const std::size_t first = text.find_first_not_of(white_space);
+    return first == std::string_view::npos
+               ? std::string_view()
+               : text.substr(first, text.find_last_not_of(white_space) - first + 1);
 }
 
-bool take_suffix(std::string_view& text, std::string_view suffix) {
-    if (!text.ends_with(suffix)) {
+// What stands before and behind a number: one sign or brackets, and one currency, on either side
+// and in any order.
+class Frame {
+  public:
+    explicit Frame(std::string_view text) : text_(text) {
+        while (take_in_front() || take_behind()) {
+            text_ = trim_white_space(text_);
+        }
+    }
+    [[nodiscard]] bool is_complete() const {
+        return is_open_ == is_closed_ && !(is_open_ && has_sign_);
+    }
+    [[nodiscard]] bool is_negative() const { return is_negative_; }
+    [[nodiscard]] std::string_view inside() const { return text_; }
+
+  private:
+    bool take_in_front() {
+        for (const std::string_view name : currencies) {
+            if (!has_currency_ && text_.starts_with(name)) {
+                text_.remove_prefix(name.size());
+                return has_currency_ = true;
+            }
+        }
+        if (!text_.empty() &&
+            (take_sign(text_.front()) || take_bracket(text_.front(), '(', is_open_))) {
+            text_.remove_prefix(1);
+            return true;
+        }
         return false;
     }
-    text = trim_blanks(text.substr(0, text.size() - suffix.size()));
-    return true;
-}
+    bool take_behind() {
+        for (const std::string_view name : currencies) {
+            if (!has_currency_ && text_.ends_with(name)) {
+                text_.remove_suffix(name.size());
+                return has_currency_ = true;
+            }
+        }
+        if (!text_.empty() &&
+            (take_sign(text_.back()) || take_bracket(text_.back(), ')', is_closed_))) {
+            text_.remove_suffix(1);
+            return true;
+        }
+        return false;
+    }
+    bool take_sign(char c) {
+        if (has_sign_ || (c != '-' && c != '+')) {
+            return false;
+        }
+        is_negative_ = is_negative_ || c == '-';
+        return has_sign_ = true;
+    }
+    bool take_bracket(char c, char bracket, bool& is_there) {
+        if (is_there || c != bracket) {
+            return false;
+        }
+        is_negative_ = true;
+        return is_there = true;
+    }
+
+    static constexpr std::array<std::string_view, 2> currencies = {"€", "EUR"};
+
+    std::string_view text_;
+    bool has_sign_ = false;
+    bool has_currency_ = false;
+    bool is_open_ = false;
+    bool is_closed_ = false;
+    bool is_negative_ = false;
+};
 
 std::string_view take_digits(std::string_view& text) {
     std::size_t count = 0;
@@ -37,90 +101,111 @@ std::string_view take_digits(std::string_view& text) {
     return digits;
 }
 
-// "1.234" or "1234"; a point anywhere but before three digits makes it no number.
-bool take_whole_part(std::string_view& text, std::string& plain) {
-    std::string_view group = take_digits(text);
-    plain += group;
-    bool grouped = false;
-    while (text.starts_with('.')) {
-        const bool first_fits = grouped || (!group.empty() && group.size() <= 3);
+// "1.234" or "1234"; behind the first digit points stand where they like.
+std::string take_whole_part(std::string_view& text) {
+    std::string digits(take_digits(text));
+    while (!digits.empty() && text.starts_with('.')) {
         text.remove_prefix(1);
-        group = take_digits(text);
-        if (!first_fits || group.size() != 3) {
-            return false;
-        }
-        plain += group;
-        grouped = true;
+        digits += take_digits(text);
     }
-    return true;
+    return digits;
 }
 
-// The number without sign, currency and blanks, as std::from_chars reads it.
-std::optional<std::string> plain_number(std::string_view text) {
-    std::string plain;
-    if (!take_whole_part(text, plain)) {
-        return std::nullopt;
+// A number without its frame.
+struct Digits {
+    std::string whole;
+    std::string_view decimals;
+    bool has_negative_exponent = false;
+    std::string_view exponent;
+};
+
+bool take_exponent(std::string_view& text, Digits& digits) {
+    constexpr std::string_view letters = "EeDd";
+    if (text.empty() || letters.find(text.front()) == std::string_view::npos) {
+        return true;
     }
-    bool any_digit = !plain.empty();
+    text.remove_prefix(1);
+    if (text.starts_with('+') || text.starts_with('-')) {
+        digits.has_negative_exponent = text.front() == '-';
+        text.remove_prefix(1);
+    }
+    digits.exponent = take_digits(text);
+    return !digits.exponent.empty();
+}
+
+std::optional<Digits> read_digits(std::string_view text) {
+    Digits digits{.whole = take_whole_part(text), .decimals = {}, .exponent = {}};
     if (text.starts_with(',')) {
         text.remove_prefix(1);
-        const std::string_view decimals = take_digits(text);
-        any_digit = any_digit || !decimals.empty();
-        plain.append(".").append(decimals);
+        digits.decimals = take_digits(text);
     }
-    if (!any_digit) {
+    const bool has_digit = !digits.whole.empty() || !digits.decimals.empty();
+    return has_digit && take_exponent(text, digits) && text.empty() ? std::optional(digits)
+                                                                    : std::nullopt;
+}
+
+// Whether a number that no double holds is too small, not too large.
+bool is_next_to_nothing(const Digits& digits) {
+    constexpr std::int64_t any_double_and_more = 1'000'000'000;
+    std::int64_t exponent = any_double_and_more;
+    std::from_chars(digits.exponent.data(), digits.exponent.data() + digits.exponent.size(),
+                    exponent);
+    exponent = digits.exponent.empty() ? 0 : std::min(exponent, any_double_and_more);
+    const std::size_t first = digits.whole.find_first_not_of('0');
+    const std::size_t places =
+        first == std::string::npos
+            ? std::min(digits.decimals.find_first_not_of('0'), digits.decimals.size())
+            : digits.whole.size() - first;
+    const auto magnitude = static_cast<std::int64_t>(places);
+    return (first == std::string::npos ? -magnitude : magnitude) +
+               (digits.has_negative_exponent ? -exponent : exponent) <
+           0;
+}
+
+std::optional<double> value_of(const Digits& digits) {
+    std::string plain = digits.whole;
+    plain.append(".").append(digits.decimals);
+    if (!digits.exponent.empty()) {
+        plain.append(digits.has_negative_exponent ? "e-" : "e").append(digits.exponent);
+    }
+    double number = 0;
+    const auto result = std::from_chars(plain.data(), plain.data() + plain.size(), number);
+    if (result.ec == std::errc()) {
+        return number;
+    }
+    return is_next_to_nothing(digits) ? std::optional(0.0) : std::nullopt;
+}
+
+// "&H1F" and "&O17", up to what 31 bits hold.
+std::optional<double> read_based(std::string_view text) {
+    if (text.size() < 3 || text[0] != '&') {
         return std::nullopt;
     }
-    if (text.starts_with('E') || text.starts_with('e')) {
-        text.remove_prefix(1);
-        plain += 'e';
-        if (text.starts_with('+') || text.starts_with('-')) {
-            plain += text.front();
-            text.remove_prefix(1);
-        }
-        const std::string_view exponent = take_digits(text);
-        if (exponent.empty()) {
-            return std::nullopt;
-        }
-        plain += exponent;
-    }
-    if (!text.empty()) {
+    const char letter = text[1];
+    const int base = letter == 'H' || letter == 'h' ? 16 : letter == 'O' || letter == 'o' ? 8 : 0;
+    if (base == 0 || text[2] == '-') {
         return std::nullopt;
     }
-    return plain;
+    std::int32_t number = 0;
+    const char* const end = text.data() + text.size();
+    const auto [rest, error] = std::from_chars(text.data() + 2, end, number, base);
+    return error == std::errc() && rest == end ? std::optional<double>(number) : std::nullopt;
 }
 
 }  // namespace
 
 std::optional<double> parse_number(std::string_view text) {
-    text = trim_blanks(text);
-    const bool parentheses = text.starts_with('(') && text.ends_with(')');
-    if (parentheses) {
-        text = trim_blanks(text.substr(1, text.size() - 2));
+    const std::string_view trimmed = trim_white_space(text);
+    if (const auto number = read_based(trimmed)) {
+        return number;
     }
-    bool negative = parentheses;
-    bool currency = take_prefix(text, "€") || take_prefix(text, "EUR");
-    if (!parentheses) {
-        negative = take_prefix(text, "-");
-        if (!negative) {
-            take_prefix(text, "+");
-        }
-    }
-    currency = currency || take_prefix(text, "€") || take_prefix(text, "EUR");
-    if (!currency) {
-        static_cast<void>(take_suffix(text, "€") || take_suffix(text, "EUR"));
-    }
-
-    const std::optional<std::string> plain = plain_number(text);
-    if (!plain) {
+    const Frame frame(trimmed);
+    const std::optional<Digits> digits = read_digits(frame.inside());
+    if (!digits || !frame.is_complete()) {
         return std::nullopt;
     }
-    double number = 0;
-    const auto result = std::from_chars(plain->data(), plain->data() + plain->size(), number);
-    if (result.ec != std::errc()) {
-        return std::nullopt;  // more than a number can hold
-    }
-    return negative ? -number : number;
+    const std::optional<double> number = value_of(*digits);
+    return number && frame.is_negative() ? -*number : number;
 }
 
 std::optional<bool> parse_boolean(std::string_view text) {

@@ -42,13 +42,12 @@ TEST(EnteredNumbers, AreNothingWhereTheTextIsNone) {
     }
 }
 
-#ifndef _WIN32
-// Windows reads more than that: "1.5" as 15, "100 -" as -100.
-TEST(EnteredNumbers, NeedTheirGroupsAndSignsWhereTheyBelong) {
-    EXPECT_EQ(read_numbers("1.5"), std::nullopt);
-    EXPECT_EQ(read_numbers("100 -"), std::nullopt);
+TEST(EnteredNumbers, AreReadAsScriptsReadTheirTexts) {
+    EXPECT_EQ(read_numbers("1.5"), (NumberRange{15, 15}));
+    EXPECT_EQ(read_numbers("100 -"), (NumberRange{-100, -100}));
+    EXPECT_EQ(read_numbers("5--3"), std::nullopt);
+    EXPECT_EQ(read_numbers("-5--3"), (NumberRange{-5, -3}));
 }
-#endif
 
 TEST(EnteredDates, AreSingleDaysOrRanges) {
     constexpr NumberCase cases[] = {

@@ -15,9 +15,11 @@ namespace {
 
 TEST(GermanRegional, TextsThatAreNoNumberAreNothing) {
     for (const char* text :
-         {"",         " ",     "abc",   "12a", "1.234.5", "1.5",  ".5",    "1.23,4",
-          "1234.567", "1,2,3", "1,2.3", "--3", "-",       ",",    "€",     "€ 5 €",
-          "1E",       "E5",    "1 2",   "()",  "(",       "(-3)", "1e999", "1\t"}) {
+         {"",           " ",      "abc", "12a",  ".5",    "1,2,3", "1,2.3", "--3",  "-5-",
+          "+5-",        "-",      ",",   "€",    "€ 5 €", "1E",    "1E-",   "E5",   "1E5,5",
+          "1E 5",       "1 2",    "()",  "(",    "(5",    "5)",    "(-3)",  "-(3)", "((3))",
+          "1e999",      "-1e999", "&H",  "&HG",  "& H1",  "-&H1",  "&H-1",  "&H+1", "&H1,5",
+          "&H80000000", "&O8",    "&17", "0x10", "5%",    "1'000", ".",     ".,5"}) {
         EXPECT_EQ(parse_number(text), std::nullopt) << text;
     }
 }
@@ -114,6 +116,21 @@ TEST(GermanRegional, NumberTextReadsBackAsExactlyTheNumber) {
         const double number = std::stod(plain);
         ASSERT_EQ(parse_number(number_text(number)), number) << plain;
     }
+}
+
+TEST(GermanRegional, NumbersMayHaveAnExponentOfBasicsOwnLetter) {
+    EXPECT_EQ(parse_number("1,5D3"), 1500);
+    EXPECT_EQ(parse_number("25d-1"), 2.5);
+}
+
+TEST(GermanRegional, NumbersTooSmallAreNought) {
+    EXPECT_EQ(parse_number("1e-99999999999999999999"), 0);
+    EXPECT_EQ(parse_number("0," + std::string(400, '0') + "1"), 0);
+    EXPECT_EQ(parse_number("0," + std::string(400, '0') + "1e5"), 0);
+    EXPECT_EQ(parse_number("1" + std::string(400, '0')), std::nullopt);
+    EXPECT_EQ(parse_number("1" + std::string(400, '0') + "e-5"), std::nullopt);
+    EXPECT_EQ(parse_number("1e99999999999999999999"), std::nullopt);
+    EXPECT_EQ(parse_number("0e99999999999999999999"), 0);
 }
 
 TEST(GermanRegional, TheCurrencysNameIsReadToo) {
