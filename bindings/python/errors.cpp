@@ -35,6 +35,7 @@ class HeldException final : public AutomationError::Cause {
 
 class PythonInterrupt final : public Interrupt {
   public:
+    // NOLINTNEXTLINE(bugprone-throw-keyword-missing): it is kept, not thrown.
     explicit PythonInterrupt(std::shared_ptr<const HeldException> held) : held_(std::move(held)) {}
 
     void raise_again() const { held_->raise_again(); }
@@ -65,7 +66,7 @@ Owned take_exception() {
 }
 
 // Texts about an exception must not fail: what cannot be had is left out.
-std::string text_or_nothing(Owned object) {
+std::string text_or_nothing(const Owned& object) {
     const Owned text = object ? Owned::steal(PyObject_Str(object.get())) : Owned();
     if (!text) {
         drop_exception();

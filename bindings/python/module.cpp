@@ -159,6 +159,7 @@ State& state_of(PyTypeObject* type) {
 
 }  // namespace cvdeveloper::python
 
-PyMODINIT_FUNC PyInit__cvdeveloper() {
+// The interpreter asks for this name.
+PyMODINIT_FUNC PyInit__cvdeveloper() {  // NOLINT(bugprone-reserved-identifier)
     return PyModuleDef_Init(&cvdeveloper::python::definition);
 }

@@ -54,7 +54,7 @@ Ref<HostSession> HostSession::log_on(std::string_view path, std::string_view use
     HostFolder folder = HostFolder::open(path);
     std::unique_ptr<Database> database = folder.open_database();
     std::string user_key = check_logon(*database, folder.log(), user, password);
-    const auto session =
+    auto session =
         make_object<HostSession>(std::move(folder), std::move(database), std::move(user_key));
     session->clean_up();
     return session;

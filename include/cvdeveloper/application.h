@@ -72,7 +72,7 @@ class Application final : public SessionObject,
     void visit_owned(OwnedVisitor& visitor) const override;
 
   private:
-    explicit Application(Ref<Session> shared);
+    explicit Application(const Ref<Session>& shared);
 
     Ref<clsBase> base_;
     Ref<clsTools> tools_;

@@ -24,7 +24,7 @@ class clsBase final : public SessionObject,
   public:
     static constexpr std::string_view automation_name = "clsBase";
 
-    explicit clsBase(Ref<Session> shared);
+    explicit clsBase(const Ref<Session>& shared);
 
     [[nodiscard]] const InterfaceTable& table() const noexcept override;
 };

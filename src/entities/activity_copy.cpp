@@ -103,7 +103,7 @@ RecordSet ActivityCopy::AKT_Copy(const RecordSet& rsAkt, std::string_view strUse
     return in_unit(session(), [&] {
         const TableOperations tables(session());
         const bool moves = datStartDate.days != 0 && datRefDate.days != 0;
-        const RecordSet copies = Gateway(session()).CV_GetRecordset("SELECT * FROM Akt WHERE 1=2");
+        RecordSet copies = Gateway(session()).CV_GetRecordset("SELECT * FROM Akt WHERE 1=2");
         KeyLists keys;
         bool any = false;
         for (; !rsAkt.at_end(); rsAkt.move_next()) {

@@ -76,7 +76,7 @@ std::vector<TopicRows> all_topics() {
 
 Application::Application() : Application(make_object<Session>()) {}
 
-Application::Application(Ref<Session> shared)
+Application::Application(const Ref<Session>& shared)
     : SessionObject(shared),
       SessionFrame(*shared),
       DiagnosticLog(*shared),

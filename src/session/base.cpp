@@ -2,7 +2,7 @@
 
 namespace cvdeveloper {
 
-clsBase::clsBase(Ref<Session> shared)
+clsBase::clsBase(const Ref<Session>& shared)
     : SessionObject(shared),
       Gateway(*shared),
       UserInterfaceBridge(*shared),

@@ -8,6 +8,7 @@ namespace cvdeveloper {
 struct Date {
     double days = 0;
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): no pointer is compared here.
     friend constexpr auto operator<=>(const Date&, const Date&) = default;
 };
 
