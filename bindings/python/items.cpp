@@ -39,7 +39,7 @@ class UsedRecordSet {
         }
         return ObjectRef(&object_of(instance));
     }
-    static std::recursive_mutex* guard_of(Object& object) {
+    static Guard* guard_of(Object& object) {
         auto* of_library = dynamic_cast<LibraryObject*>(&object);
         return of_library == nullptr ? nullptr : of_library->guard();
     }

@@ -20,7 +20,7 @@ bool is_deleted(RowState state) noexcept {
 ClientRecordSet::ClientRecordSet(std::shared_ptr<const Shape> shape, Rows rows)
     : shape_(std::move(shape)), rows_(std::move(rows)) {}
 
-std::recursive_mutex* ClientRecordSet::guard() noexcept {
+Guard* ClientRecordSet::guard() noexcept {
     return &shape_->owner()->guard;
 }
 

@@ -66,7 +66,7 @@ class ClientRecordSet final : public LibraryObject, public host::RecordSet {
     ObjectRef item(const Variant& name_or_position);
 
     [[nodiscard]] const InterfaceTable& table() const noexcept override;
-    [[nodiscard]] std::recursive_mutex* guard() noexcept override;
+    [[nodiscard]] Guard* guard() noexcept override;
 
     // For Fields, Field and the session.
     struct Change {

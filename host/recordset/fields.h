@@ -18,7 +18,7 @@ class Fields final : public LibraryObject {
     ObjectRef item(const Variant& name_or_position);
 
     [[nodiscard]] const InterfaceTable& table() const noexcept override;
-    [[nodiscard]] std::recursive_mutex* guard() noexcept override { return record_set_->guard(); }
+    [[nodiscard]] Guard* guard() noexcept override { return record_set_->guard(); }
 
   private:
     Ref<ClientRecordSet> record_set_;
@@ -39,7 +39,7 @@ class Field final : public LibraryObject, public host::Field {
     std::int32_t defined_size();
 
     [[nodiscard]] const InterfaceTable& table() const noexcept override;
-    [[nodiscard]] std::recursive_mutex* guard() noexcept override { return record_set_->guard(); }
+    [[nodiscard]] Guard* guard() noexcept override { return record_set_->guard(); }
 
   private:
     [[nodiscard]] const Column& column() const noexcept {

@@ -2,12 +2,12 @@
 
 #include <cstdint>
 #include <memory>
-#include <mutex>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "cvdeveloper/automation/guard.h"
 #include "host/database/catalog.h"
 #include "host/database/database.h"
 #include "host/sql/names.h"
@@ -16,7 +16,7 @@ namespace cvdeveloper::standalone {
 
 // The session that record sets come from and go back to: its guard, and the memory that they share.
 struct RecordSetOwner {
-    std::recursive_mutex guard;
+    Guard guard;
     std::shared_ptr<BlockPool> blocks = std::make_shared<BlockPool>();
 };
 

@@ -31,7 +31,7 @@ class HostSession final : public RefCounted {
 
     [[nodiscard]] const HostFolder& folder() const noexcept { return folder_; }
     [[nodiscard]] const Catalog& catalog() const noexcept { return *catalog_; }
-    [[nodiscard]] std::recursive_mutex* guard() const noexcept { return &owner_->guard; }
+    [[nodiscard]] Guard* guard() const noexcept { return &owner_->guard; }
 
     // Runs one read-only SELECT. Errors: StatementRefused and others, with the statement's
     // beginning.

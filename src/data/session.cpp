@@ -1,5 +1,8 @@
 #include "cvdeveloper/data/session.h"
 
+#include <memory>
+#include <utility>
+
 #include "cvdeveloper/automation/conversions.h"
 #include "cvdeveloper/automation/error.h"
 #include "cvdeveloper/automation/runtime_errors.h"
@@ -13,9 +16,9 @@ void raise_not_initialised() {
 host::Session* Session::attached() noexcept {
     switch (kind_) {
         case INITTYPE_APPLICATION:
-            return &*application_;
+            return &*host_.application;
         case INITTYPE_CONNECTOR:
-            return &*connector_;
+            return &*host_.connector;
         case INITTYPE_NONE:
             break;
     }
@@ -34,34 +37,34 @@ host::Application& Session::application() {
     if (kind_ != INITTYPE_APPLICATION) {
         raise_not_initialised();
     }
-    return *application_;
+    return *host_.application;
 }
 
 host::Connector& Session::connector() {
     if (kind_ != INITTYPE_CONNECTOR) {
         raise_not_initialised();
     }
-    return *connector_;
+    return *host_.connector;
 }
 
 host::Util& Session::util() {
     if (kind_ == INITTYPE_NONE) {
         raise_not_initialised();
     }
-    if (!util_) {
+    if (!host_.util) {
         raise(RuntimeError::ObjectNotSet, "Util");
     }
-    return *util_;
+    return *host_.util;
 }
 
 host::Blob& Session::blob() {
     if (kind_ == INITTYPE_NONE) {
         raise_not_initialised();
     }
-    if (!blob_) {
+    if (!host_.blob) {
         raise(RuntimeError::ObjectNotSet, "Blob");
     }
-    return *blob_;
+    return *host_.blob;
 }
 
 std::string Session::text(Variant value) {
@@ -69,46 +72,44 @@ std::string Session::text(Variant value) {
 }
 
 const ObjectRef& Session::application_object() const noexcept {
-    return application_.object();
+    return host_.application.object();
 }
 
 const ObjectRef& Session::connector_object() const noexcept {
-    return connector_.object();
+    return host_.connector.object();
 }
 
 void Session::detach() {
+    const GuardLock lock(&guard);
     kind_ = INITTYPE_NONE;
-    application_ = {};
-    connector_ = {};
-    util_ = {};
-    blob_ = {};
-    db_ini_ = nullptr;
     folder_.clear();
+    // A host may detach while it is being called: its objects live until that call has returned.
+    guard.keep(std::make_shared<HostObjects>(std::exchange(host_, {})));
 }
 
 void Session::keep_application(host::Bound<host::Application> application) {
-    application_ = std::move(application);
+    host_.application = std::move(application);
 }
 
 void Session::keep_connector(host::Bound<host::Connector> connector) {
-    connector_ = std::move(connector);
+    host_.connector = std::move(connector);
 }
 
 void Session::keep_util(const ObjectRef& util) {
-    util_ = host::Bound<host::Util>(util);
+    host_.util = host::Bound<host::Util>(util);
 }
 
 void Session::keep_blob(const ObjectRef& blob) {
-    blob_ = host::Bound<host::Blob>(blob);
+    host_.blob = host::Bound<host::Blob>(blob);
 }
 
 void Session::keep_db_ini(ObjectRef db_ini) {
-    db_ini_ = std::move(db_ini);
+    host_.db_ini = std::move(db_ini);
 }
 
 void Session::visit_owned(OwnedVisitor& visitor) const {
-    for (const ObjectRef* object : {&application_.object(), &connector_.object(), &util_.object(),
-                                    &blob_.object(), &db_ini_}) {
+    for (const ObjectRef* object : {&host_.application.object(), &host_.connector.object(),
+                                    &host_.util.object(), &host_.blob.object(), &host_.db_ini}) {
         visitor.visit(object->get());
     }
 }

@@ -23,6 +23,15 @@ ObjectRef object_or_nothing(Get get) {
     }
 }
 
+// A host that ended the session while it was asked for its objects is not attached.
+void attach_kept(Session& session, bool is_kept, enumInitType kind) {
+    if (is_kept) {
+        session.attach(kind);
+    } else if (session.kind() == INITTYPE_NONE) {
+        session.detach();
+    }
+}
+
 }  // namespace
 
 std::string SessionFrame::GetVersion() const {
@@ -45,6 +54,7 @@ void SessionFrame::Corvanta_SetApplication(const Variant& oCV) const {
         show_message("Corvanta.Application-Objekt ist nicht vorhanden.");
         return;
     }
+    const GuardLock lock(&session().guard);
     host::Bound<host::Application> application(*object);
     bool logged_in = false;
     try {
@@ -66,12 +76,13 @@ void SessionFrame::Corvanta_SetApplication(const Variant& oCV) const {
     session().keep_blob(object_or_nothing([&host] { return host.Blob(); }));
     session().keep_db_ini(object_or_nothing([&host] { return host.DbIni(); }));
     session().keep_folder(host.Folder());
-    session().attach(INITTYPE_APPLICATION);
+    attach_kept(session(), session().application_object() == *object, INITTYPE_APPLICATION);
 }
 
 void SessionFrame::Corvanta_InitConnector(std::string_view strCorvantaPath,
                                           std::string_view strUser,
                                           std::string_view strPassword) const {
+    const GuardLock lock(&session().guard);
     session().detach();
     const ObjectRef connector =
         object_or_nothing([] { return create_object("CVConnector.Application"); });
@@ -115,7 +126,7 @@ void SessionFrame::log_on(const std::string& path, std::string_view user,
     session().keep_blob(connector->Blob());
     session().keep_db_ini(connector->DbIni());
     session().keep_folder(path);
-    session().attach(INITTYPE_CONNECTOR);
+    attach_kept(session(), session().connector_object() == connector.object(), INITTYPE_CONNECTOR);
 }
 
 void SessionFrame::Corvanta_Done() const {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <mutex>
-
+#include "cvdeveloper/automation/guard.h"
 #include "cvdeveloper/automation/interface_table.h"
 #include "cvdeveloper/automation/object.h"
 
@@ -25,7 +24,7 @@ class LibraryObject : public Object {
     Variant run(const Operation& operation, Variant* slots);
 
     // One caller at a time, where the object has state that threads could share.
-    [[nodiscard]] virtual std::recursive_mutex* guard() noexcept { return nullptr; }
+    [[nodiscard]] virtual Guard* guard() noexcept { return nullptr; }
 };
 
 // Where arguments belong in a row, and the errors of those that belong nowhere: every way in that
@@ -37,7 +36,7 @@ std::size_t place_of_argument(const Operation& operation, std::string_view name)
 // Holds a guard; a wait for it gives up the interpreter lock.
 class GuardLock {
   public:
-    explicit GuardLock(std::recursive_mutex* guard) : guard_(guard) {
+    explicit GuardLock(Guard* guard) : guard_(guard) {
         if (guard_ != nullptr) {
             lock();
         }
@@ -54,7 +53,7 @@ class GuardLock {
     void lock();
     void unlock();
 
-    std::recursive_mutex* guard_;
+    Guard* guard_;
 };
 
 }  // namespace cvdeveloper

@@ -41,7 +41,7 @@ inline constexpr Status null_pointer = static_cast<Status>(0x80004003);  // E_PO
 struct Head {
     const NativeEntry* vtable;
     Object* object;
-    std::recursive_mutex* guard;  // the object's own
+    Guard* guard;  // the object's own
 };
 
 // Which entry of which object runs: finds the row, where a default or an error's text asks for it.

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <map>
-#include <mutex>
 #include <optional>
 #include <string>
 
@@ -30,12 +29,13 @@ class Session final : public RefCounted {
     // The host's objects as callers see them; nothing where there is none.
     [[nodiscard]] const ObjectRef& application_object() const noexcept;
     [[nodiscard]] const ObjectRef& connector_object() const noexcept;
-    [[nodiscard]] const ObjectRef& util_object() const noexcept { return util_.object(); }
-    [[nodiscard]] const ObjectRef& blob_object() const noexcept { return blob_.object(); }
-    [[nodiscard]] const ObjectRef& db_ini_object() const noexcept { return db_ini_; }
+    [[nodiscard]] const ObjectRef& util_object() const noexcept { return host_.util.object(); }
+    [[nodiscard]] const ObjectRef& blob_object() const noexcept { return host_.blob.object(); }
+    [[nodiscard]] const ObjectRef& db_ini_object() const noexcept { return host_.db_ini; }
     [[nodiscard]] const std::string& folder() const noexcept { return folder_; }
 
-    // Steps of attaching and detaching, in the order in which the frame takes them.
+    // Steps of attaching and detaching, in the order in which the frame takes them. What a call in
+    // progress under the guard has got of the host stays valid until the outermost one returns.
     void detach();
     void keep_application(host::Bound<host::Application> application);
     void keep_connector(host::Bound<host::Connector> connector);
@@ -59,17 +59,21 @@ class Session final : public RefCounted {
     // The legal holidays asked for so far, by year.
     std::map<std::int32_t, host::Bound<host::LegalHolidays>> holidays;
 
-    std::recursive_mutex guard;
+    Guard guard;
 
   private:
+    struct HostObjects {
+        host::Bound<host::Application> application;
+        host::Bound<host::Connector> connector;
+        host::Bound<host::Util> util;
+        host::Bound<host::Blob> blob;
+        ObjectRef db_ini;
+    };
+
     host::Session* attached() noexcept;
 
     enumInitType kind_ = INITTYPE_NONE;
-    host::Bound<host::Application> application_;
-    host::Bound<host::Connector> connector_;
-    host::Bound<host::Util> util_;
-    host::Bound<host::Blob> blob_;
-    ObjectRef db_ini_;
+    HostObjects host_;
     std::string folder_;
 };
 
@@ -96,7 +100,7 @@ class SessionObject : public LibraryObject {
 
     [[nodiscard]] Session& session() const noexcept { return *session_; }
     [[nodiscard]] const Ref<Session>& shared_session() const noexcept { return session_; }
-    [[nodiscard]] std::recursive_mutex* guard() noexcept override { return &session_->guard; }
+    [[nodiscard]] Guard* guard() noexcept override { return &session_->guard; }
     void visit_owned(OwnedVisitor& visitor) const override { visitor.visit(session_.get()); }
 
   private:

@@ -1,6 +1,8 @@
 """Any Python object serves as a host; its members are reached by name when they are needed."""
 
+import gc
 import types
+import weakref
 
 import pytest
 from doubles import Host, RecordSet
@@ -334,3 +336,48 @@ def test_the_stand_alone_connector_serves_as_a_running_application(app, tmp_path
     outer = attach(Running(), tmp_path)
     dsn = outer.AKT_Create(strBetreff="durchgereicht")
     assert app.AKT_FindByDSN(dsn)["Subject"] == "durchgereicht"
+
+
+def test_the_objects_of_a_host_that_ends_the_session_live_until_the_call_returns(tmp_path):
+    class Util:
+        def k(self, value):
+            return value
+
+        def SqlStrNull(self, value):
+            return value
+
+        def NewGUID(self):
+            return "KEY"
+
+        def SqlUid(self, key):
+            return f"'{key}'"
+
+    class Rows:
+        EOF = True
+
+    class Ending:
+        IsLoggedIn, Folder, Blob, DbIni = True, "x", None, None
+
+        @property
+        def Util(self):
+            util = Util()
+            utils.append(weakref.ref(util))
+            return util
+
+        def GetRecordset(self, sql):
+            app.Corvanta_Done()
+            gc.collect()
+            assert utils[0]() is not None, "gone while it is in use"
+            return Rows()
+
+    app = cvdeveloper.Application()
+    app.LogPath = str(tmp_path)
+    utils = []
+    app.Corvanta_SetApplication(Ending())
+    app.AKT_FindByDSN("K1")
+    gc.collect()
+    assert utils[0]() is None
+    with pytest.raises(AutomationError) as raised:
+        app.AKT_FindByDSN("K1")
+    assert raised.value.number == 601
+    assert app.Corvanta_InitType == cvdeveloper.INITTYPE_NONE
