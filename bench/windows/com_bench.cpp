@@ -6,9 +6,9 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <vector>
 
+#include "client.h"
 #include "cvdeveloper_interfaces.h"
 
 namespace {
@@ -95,19 +95,6 @@ bool report(const char* what, double limit, std::vector<double> ours, std::vecto
     std::printf("%-34s %8.1f ns  hand-written %6.1f ns  ratio %5.1f  limit %4.0f ns %s\n", what,
                 mine, peer, mine / peer, limit, mine <= limit ? "" : "EXCEEDED");
     return mine <= limit;
-}
-
-template <class T>
-T* create(const wchar_t* name) {
-    CLSID id{};
-    T* made = nullptr;
-    if (FAILED(CLSIDFromProgID(name, &id)) ||
-        FAILED(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, __uuidof(T),
-                                reinterpret_cast<void**>(&made)))) {
-        std::printf("%ls cannot be created\n", name);
-        std::exit(1);
-    }
-    return made;
 }
 
 }  // namespace

@@ -39,6 +39,12 @@ class SettingsReader {
         }
         return number;
     }
+    void check_kind_of_database() const {
+        const std::string text = ini_.get("Datenbank", "Art", "SQLite");
+        if (!equal_ignoring_case(text, "SQLite")) {
+            refuse("Art", text, "SQLite");
+        }
+    }
     [[nodiscard]] Sync sync() const {
         const std::string text = ini_.get("Datenbank", "Sicherheit", "voll");
         if (equal_ignoring_case(text, "voll")) {
@@ -74,6 +80,7 @@ Settings read_settings(std::string_view folder, std::string_view text) {
         return std::chrono::seconds(
             ini.number("Datenbank", key, static_cast<int>(otherwise.count())));
     };
+    ini.check_kind_of_database();
     Settings settings;
     settings.database_file = ini.text("Datenbank", "Datei", settings.database_file);
     settings.timeout = seconds("Wartezeit", settings.timeout);

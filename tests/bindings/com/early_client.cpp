@@ -9,20 +9,10 @@
 #include <cstdio>
 #include <string>
 
+#include "client.h"
 #include "cvdeveloper_interfaces.h"
 
 namespace {
-
-std::string narrow(BSTR text) {
-    if (text == nullptr) {
-        return "(null)";
-    }
-    std::string bytes(SysStringLen(text) * 3 + 1, '\0');
-    bytes.resize(static_cast<std::size_t>(
-        WideCharToMultiByte(CP_UTF8, 0, text, static_cast<int>(SysStringLen(text)), bytes.data(),
-                            static_cast<int>(bytes.size()), nullptr, nullptr)));
-    return bytes;
-}
 
 class Text {
   public:
@@ -68,19 +58,6 @@ std::string error_text(IUnknown* object, REFIID interface_id, HRESULT status) {
     information->GetDescription(description.address());
     information->Release();
     return text + "|" + narrow(source) + "|" + narrow(description);
-}
-
-template <class T>
-T* create(const wchar_t* name) {
-    CLSID id{};
-    T* made = nullptr;
-    if (FAILED(CLSIDFromProgID(name, &id)) ||
-        FAILED(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, __uuidof(T),
-                                reinterpret_cast<void**>(&made)))) {
-        std::printf("%ls cannot be created\n", name);
-        std::exit(1);
-    }
-    return made;
 }
 
 void phone_list() {

@@ -7,23 +7,13 @@
 #include <fcntl.h>
 #include <io.h>
 #include <cstdio>
-#include <cstdlib>
 #include <initializer_list>
 #include <string>
 #include <vector>
 
-namespace {
+#include "client.h"
 
-std::string narrow(BSTR text) {
-    if (text == nullptr) {
-        return "(null)";
-    }
-    std::string bytes(SysStringLen(text) * 3 + 1, '\0');
-    bytes.resize(static_cast<std::size_t>(
-        WideCharToMultiByte(CP_UTF8, 0, text, static_cast<int>(SysStringLen(text)), bytes.data(),
-                            static_cast<int>(bytes.size()), nullptr, nullptr)));
-    return bytes;
-}
+namespace {
 
 VARIANT number(double value) {
     VARIANT made;
@@ -54,18 +44,6 @@ VARIANT array_of_texts() {
     VariantInit(&made);
     V_ARRAY(&made) = SafeArrayCreateVector(VT_BSTR, 0, 2);
     V_VT(&made) = VT_ARRAY | VT_BSTR;
-    return made;
-}
-
-IDispatch* create(const wchar_t* name) {
-    CLSID id{};
-    IDispatch* made = nullptr;
-    if (FAILED(CLSIDFromProgID(name, &id)) ||
-        FAILED(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
-                                reinterpret_cast<void**>(&made)))) {
-        std::printf("%ls cannot be created\n", name);
-        std::exit(1);
-    }
     return made;
 }
 
@@ -126,9 +104,9 @@ void say(const char* what, const std::string& value) {
 int main() {
     _setmode(_fileno(stdout), _O_BINARY);
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    IDispatch* tools = create(L"CVDeveloper.clsTools");
-    IDispatch* app = create(L"CVDeveloper.Application");
-    IDispatch* phones = create(L"CVDeveloper.clsPhoneList");
+    IDispatch* tools = create<IDispatch>(L"CVDeveloper.clsTools");
+    IDispatch* app = create<IDispatch>(L"CVDeveloper.Application");
+    IDispatch* phones = create<IDispatch>(L"CVDeveloper.clsPhoneList");
 
     // Named arguments stand first in the list, positional ones behind them.
     say("one by name",

@@ -109,7 +109,8 @@ TEST_F(Failing, DatabaseThatIsLockedForTooLongIsNamedWithTheTime) {
 
 TEST_F(Failing, SettingsThatAreNoneAreNamed) {
     for (const auto& [settings, text] :
-         {std::pair("Wartezeit=bald", "Wartezeit 'bald'; möglich ist eine Zahl von 0 bis 100000."),
+         {std::pair("Art=MariaDB", "Art 'MariaDB'; möglich ist SQLite."),
+          std::pair("Wartezeit=bald", "Wartezeit 'bald'; möglich ist eine Zahl von 0 bis 100000."),
           std::pair("Laufzeit=-1", "Laufzeit '-1'; möglich ist eine Zahl von 0 bis 100000."),
           std::pair("Sicherheit=sehr",
                     "Sicherheit 'sehr'; möglich ist voll, schnell oder ohne.")}) {
@@ -269,16 +270,23 @@ class SmallDisk {
 class FullDisk : public Failing, public ::testing::WithParamInterface<bool> {
   protected:
     [[nodiscard]] SmallDisk small_disk() const { return {folder.path("platte"), GetParam()}; }
+    // Runs a test in a copy of the office on a disk with little room left.
+    template <class Test>
+    void in_a_full_office(const Test& test) {
+        in_child([&] {
+            const SmallDisk disk = small_disk();
+            const std::string path = disk.path("büro");
+            fs::copy(host_path(), path, fs::copy_options::recursive);
+            disk.begin(3'000'000);
+            Connector own;
+            own.Logon(path, "chef", "");
+            test(own, disk, path);
+        });
+    }
 };
 
 TEST_P(FullDisk, TakesNoRoomForALargeSort) {
-    in_child([this] {
-        const SmallDisk disk = small_disk();
-        const std::string path = disk.path("büro");
-        fs::copy(host_path(), path, fs::copy_options::recursive);
-        disk.begin(3'000'000);
-        Connector own;
-        own.Logon(path, "chef", "");
+    in_a_full_office([](Connector& own, const SmallDisk&, const std::string&) {
         const RecordSet rs = own.GetRecordset(
             "WITH RECURSIVE row(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM row LIMIT 300000) "
             "SELECT i * 7919 % 400009 AS x, hex('0123456789012345678901234567890123456789') AS y "
@@ -289,13 +297,7 @@ TEST_P(FullDisk, TakesNoRoomForALargeSort) {
 }
 
 TEST_P(FullDisk, TakesNothingByHalvesAndTheSessionGoesOn) {
-    in_child([this] {
-        const SmallDisk disk = small_disk();
-        const std::string path = disk.path("büro");
-        fs::copy(host_path(), path, fs::copy_options::recursive);
-        disk.begin(3'000'000);
-        Connector own;
-        own.Logon(path, "chef", "");
+    in_a_full_office([this](Connector& own, const SmallDisk& disk, const std::string& path) {
         const auto count = [&] {
             return own.GetRecordset("SELECT count(*) FROM AKT", {}).value_at(0);
         };
