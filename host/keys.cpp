@@ -76,7 +76,7 @@ std::string new_key() {
         (random.next() & 0x3FFFFFFFFFFFFFFFU) | 0x8000000000000000U};
     std::string key(36, '-');
     for (std::size_t i = 0; i < places_of_bytes.size(); ++i) {
-        const std::uint64_t byte = halves[i / 8] >> (56 - i % 8 * 8) & 0xFFU;
+        const auto byte = static_cast<std::uint8_t>(halves[i / 8] >> (56 - i % 8 * 8));
         std::ranges::copy(digits_of_bytes[byte], key.data() + places_of_bytes[i]);
     }
     return key;
