@@ -82,7 +82,7 @@ class ALogonToAFolder : public HostTest {};
 
 TEST_F(ALogonToAFolder, LogsUpToTheSizeInItsSettings) {
     const fs::path log = paths::to_system(host_path()) / "corvanta.log";
-    std::ofstream(log) << std::string(2'990, 'x') << "\n";
+    std::ofstream(log, std::ios::binary) << std::string(2'990, 'x') << "\n";
     std::ofstream(paths::to_system(host_path()) / "corvanta.ini") << "[Protokoll]\nUmfang=3\n";
     error_of([&] { Connector().Logon(host_path(), "niemand", "x"); });
     EXPECT_EQ(fs::file_size(HostLog::old_one_of(log)), 2'991U);

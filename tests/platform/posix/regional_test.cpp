@@ -8,7 +8,9 @@
 #include <utility>
 #include <vector>
 
+#include "cvdeveloper/automation/conversions.h"
 #include "platform/clock.h"
+#include "support/expect_error.h"
 
 namespace cvdeveloper::regional {
 namespace {
@@ -92,6 +94,13 @@ TEST(GermanRegional, TextsThatAreNoDateAreNothing) {
                              "40000",
                              "1,5"}) {
         EXPECT_EQ(parse_date(text), std::nullopt) << text;
+    }
+}
+
+// Windows looks for another order of day, month and year in some of them.
+TEST(GermanRegional, ADayThatTheCalendarDoesNotHaveIsNoNumberOfDaysEither) {
+    for (const char* text : {"31.02.26", "32.1.", "15.13"}) {
+        expect_error_number(13, [&] { static_cast<void>(to_date(Variant(text))); });
     }
 }
 
