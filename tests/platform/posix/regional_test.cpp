@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "cvdeveloper/automation/conversions.h"
+#include "cvdeveloper/automation/object.h"
 #include "platform/clock.h"
 #include "support/expect_error.h"
 
