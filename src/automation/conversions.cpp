@@ -144,15 +144,15 @@ Date to_date(const Variant& value) {
     if (is_object(value)) {
         return to_date(plain_value(value));
     }
-    if (const auto* text = value.get_if<std::string>()) {
+    const auto* const text = value.get_if<std::string>();
+    if (text != nullptr) {
         if (const auto date = regional::parse_date(*text)) {
             return *date;
         }
     }
     const Date date{to_double(value)};
     // A day that the calendar does not have ("31.02.26") is no number with its digits in groups.
-    const auto* const entry = value.get_if<std::string>();
-    if (entry != nullptr && entry->find('.') != std::string::npos &&
+    if (text != nullptr && text->find('.') != std::string::npos &&
         date.days == std::floor(date.days)) {
         raise(RuntimeError::TypeMismatch);
     }
